@@ -1,0 +1,32 @@
+#include "platform/application.h"
+#include "platform/desktop.h"
+#include "platform/forms.h"
+#include "platform/qt_dialogs.h"
+#include "platform/qt_ticks.h"
+#include "platform/twister_random.h"
+#include "sheets/exercise_sheet.h"
+#include "sheets/sheets.h"
+#include "shell/names.h"
+#include "shell/splash.h"
+#include "shell/uvod.h"
+
+int main(int, char** arguments) {
+  using namespace ratanka;
+
+  Application application(arguments[0]);
+  QtTicks ticks;
+  Forms forms(ticks);
+  QtDialogs dialogs(forms);
+  const PrimaryScreen desktop;
+  TwisterRandom random;
+  Premenné premenné;
+  const sheets::SheetServices services{forms, dialogs, random, premenné};
+
+  forms.setMaker(names::frmSplash,
+                 [&] { return std::make_shared<frmSplash>(forms, dialogs, desktop, premenné); });
+  forms.setMaker(names::Úvod, [&] { return std::make_shared<Úvod>(forms); });
+  forms.setMaker(names::Malá,
+                 [&] { return std::make_shared<sheets::ExerciseSheet>(services, sheets::Malá()); });
+
+  return application.run([&] { forms.show(names::frmSplash); });
+}

@@ -1,0 +1,187 @@
+#include "platform/controls.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+#include "platform/keys.h"
+#include "platform/pictures.h"
+
+namespace ratanka {
+namespace {
+
+constexpr int kBorder = 1;  // of a picture box, in logical pixels
+
+QRect rectangle(const Place& place) {
+  const int left = pixels(place.left);
+  const int top = pixels(place.top);
+  return {left, top, pixels(place.left + place.width) - left,
+          pixels(place.top + place.height) - top};
+}
+
+void setUp(QWidget& control, const QString& name, const Place& place) {
+  control.setObjectName(name);
+  control.setGeometry(rectangle(place));
+}
+
+// What a listener is told of a control that shows no text: its tooltip's words.
+QString spoken(const QString& tooltip) { return tooltip.simplified(); }
+
+class Image : public QWidget {
+ public:
+  Image(QWidget* parent, QString picture) : QWidget(parent), picture_(std::move(picture)) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter(this).drawPixmap(0, 0, picture(picture_, size(), devicePixelRatioF()));
+  }
+
+ private:
+  QString picture_;
+};
+
+class Line : public QWidget {
+ public:
+  Line(QWidget* parent, const Rgb& rgb) : QWidget(parent), colour_(colour(rgb)) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), colour_); }
+
+ private:
+  QColor colour_;
+};
+
+class Button : public QPushButton {
+ public:
+  using QPushButton::QPushButton;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    QKeyEvent asSpace = withEnterAsSpace(*event);
+    QPushButton::keyPressEvent(&asSpace);
+    event->setAccepted(asSpace.isAccepted());
+  }
+
+  void keyReleaseEvent(QKeyEvent* event) override {
+    QKeyEvent asSpace = withEnterAsSpace(*event);
+    QPushButton::keyReleaseEvent(&asSpace);
+    event->setAccepted(asSpace.isAccepted());
+  }
+
+ private:
+  static QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
+    const int key = keyCode(event) == key::kEnter ? static_cast<int>(Qt::Key_Space) : event.key();
+    return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
+  }
+};
+
+}  // namespace
+
+QLabel* addLabel(QWidget& form, const LabelDesign& design) {
+  auto* const label = new QLabel(&form);
+  setUp(*label, design.name, design.place);
+  label->setTextFormat(Qt::PlainText);
+  label->setText(design.caption);
+  label->setFont(font(design.type));
+  label->setAlignment(design.align);
+  label->setToolTip(design.tooltip);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, colour(design.fore));
+  label->setPalette(palette);
+  if (design.back) setBack(*label, *design.back);
+  return label;
+}
+
+void setBack(QLabel& label, const Rgb& back) {
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::Window, colour(back));
+  label.setPalette(palette);
+  label.setAutoFillBackground(true);
+}
+
+void TextBox::setOpen(bool open) {
+  if (open == isEnabled()) return;
+  // The toolkit would hand the keyboard of a disabled control to the next one in its tab order.
+  if (!open && hasFocus()) window()->setFocus();
+  setFrame(open);
+  setEnabled(open);
+}
+
+void TextBox::keyReleaseEvent(QKeyEvent* event) {
+  QLineEdit::keyReleaseEvent(event);
+  // A key that repeats goes down again and again, and up once.
+  if (!event->isAutoRepeat()) emit keyUp(keyCode(*event));
+}
+
+TextBox* addTextBox(QWidget& form, const TextBoxDesign& design) {
+  auto* const box = new TextBox(&form);
+  setUp(*box, design.name, design.place);
+  box->setMaxLength(design.maxLength);
+  box->setFont(font(design.type));
+  box->setAccessibleName(design.accessibleName);
+  box->setContextMenuPolicy(Qt::NoContextMenu);
+  box->setAcceptDrops(false);
+  QPalette palette = box->palette();
+  palette.setColor(QPalette::Disabled, QPalette::Base, Qt::transparent);
+  palette.setColor(QPalette::Disabled, QPalette::Text, colour(kInkColour));
+  box->setPalette(palette);
+  return box;
+}
+
+QWidget* addImage(QWidget& form, const ImageDesign& design) {
+  auto* const image = new Image(&form, design.picture);
+  setUp(*image, design.name, design.place);
+  image->setAccessibleName(design.accessibleName);
+  image->setVisible(design.visible);
+  return image;
+}
+
+QWidget* addLine(QWidget& form, const LineDesign& design) {
+  auto* const line = new Line(&form, design.colour);
+  line->setObjectName(design.name);
+  const bool isLevel = design.y1 == design.y2;
+  const int x = pixels(design.x1) - (isLevel ? 0 : design.width / 2);
+  const int y = pixels(design.y1) - (isLevel ? design.width / 2 : 0);
+  line->setGeometry(x, y, isLevel ? pixels(design.x2) - x : design.width,
+                    isLevel ? design.width : pixels(design.y2) - y);
+  return line;
+}
+
+void PictureBox::paint(std::function<void(QPainter&)> painting) {
+  painting_ = std::move(painting);
+  update();
+}
+
+void PictureBox::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), colour(kInkColour));
+  const QRect inside = rect().adjusted(kBorder, kBorder, -kBorder, -kBorder);
+  painter.fillRect(inside, Qt::white);
+  painter.translate(inside.topLeft());
+  if (painting_) painting_(painter);
+}
+
+PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place) {
+  auto* const box = new PictureBox(&form);
+  setUp(*box, name, place);
+  box->setAttribute(Qt::WA_OpaquePaintEvent);
+  return box;
+}
+
+QPushButton* addButton(QWidget& form, const ButtonDesign& design) {
+  auto* const button = new Button(design.caption, &form);
+  setUp(*button, design.name, design.place);
+  button->setToolTip(design.tooltip);
+  button->setFont(font(design.type));
+  QPalette palette = button->palette();
+  palette.setColor(QPalette::Button, colour(design.back));
+  button->setPalette(palette);
+  if (!design.icon.isEmpty()) {
+    button->setIcon(pictureIcon(design.icon));
+    button->setIconSize({design.iconSize, design.iconSize});
+  }
+  if (design.caption.isEmpty()) button->setAccessibleName(spoken(design.tooltip));
+  button->setVisible(design.visible);
+  return button;
+}
+
+}  // namespace ratanka

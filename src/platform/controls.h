@@ -1,0 +1,114 @@
+#pragma once
+
+#include <QColor>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "platform/fonts.h"
+#include "platform/units.h"
+
+// Builders for the controls of a form. Each makes a real widget of the toolkit with the control's
+// system name as its object name; a later one stands in front of an earlier one.
+
+namespace ratanka {
+
+inline QColor colour(const Rgb& rgb) { return {rgb.red, rgb.green, rgb.blue}; }
+
+inline constexpr Rgb kInkColour{0x22, 0x30, 0x4a};
+
+struct LabelDesign {
+  QString name;
+  Place place;
+  QString caption{};
+  Type type{};
+  Rgb fore = kInkColour;
+  std::optional<Rgb> back{};  // none: what lies behind shows through
+  Qt::Alignment align = Qt::AlignLeft | Qt::AlignTop;
+  QString tooltip{};
+};
+QLabel* addLabel(QWidget& form, const LabelDesign& design);
+void setBack(QLabel& label, const Rgb& back);
+
+// A line of text to type into; tells of each key that is released in it.
+class TextBox : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  using QLineEdit::QLineEdit;
+
+  // Closed: can't be typed into, without a border. The keyboard stays with the form.
+  void setOpen(bool open);
+
+ signals:
+  // The system's key code (platform/keys.h).
+  void keyUp(int keyCode);
+
+ protected:
+  void keyReleaseEvent(QKeyEvent* event) override;
+};
+
+struct TextBoxDesign {
+  QString name;
+  Place place;
+  int maxLength = 0;
+  Type type{};
+  QString accessibleName{};
+};
+TextBox* addTextBox(QWidget& form, const TextBoxDesign& design);
+
+struct ImageDesign {
+  QString name;
+  Place place;
+  QString picture;  // as in platform/pictures.h
+  bool visible = true;
+  QString accessibleName{};
+};
+QWidget* addImage(QWidget& form, const ImageDesign& design);
+
+// A straight line along either axis.
+struct LineDesign {
+  QString name;
+  int x1 = 0;  // twips
+  int y1 = 0;
+  int x2 = 0;
+  int y2 = 0;
+  int width = 1;  // logical pixels
+  Rgb colour = kInkColour;
+};
+QWidget* addLine(QWidget& form, const LineDesign& design);
+
+// A plain white area with a thin border, painted by the form inside it.
+class PictureBox : public QWidget {
+ public:
+  using QWidget::QWidget;
+
+  // Paints at the next opportunity; `painting` is kept for later repaints.
+  void paint(std::function<void(QPainter&)> painting);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  std::function<void(QPainter&)> painting_;
+};
+PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place);
+
+struct ButtonDesign {
+  QString name;
+  Place place;
+  QString caption{};
+  QString tooltip{};
+  Rgb back{224, 224, 224};
+  QString icon{};     // a picture's name
+  int iconSize = 32;  // logical pixels
+  Type type{};
+  bool visible = true;
+};
+// Pressed by the mouse, the space bar and both Enter keys, at the release.
+QPushButton* addButton(QWidget& form, const ButtonDesign& design);
+
+}  // namespace ratanka

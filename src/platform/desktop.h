@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/units.h"
+
+class QWidget;
+
+namespace ratanka {
+
+// The screen that the program starts on.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+  // Size of the display mode in the screen's own pixels, whatever the desktop's magnification.
+  virtual PixelSize size() const = 0;
+};
+
+class PrimaryScreen : public Desktop {
+ public:
+  PixelSize size() const override;
+};
+
+// A length of a display mode in its own pixels, from its length in logical pixels, which the
+// toolkit has rounded, and the magnification. The lengths of display modes are even, which undoes
+// the rounding exactly for magnifications up to 2.
+int modeLength(int logicalPixels, double magnification);
+
+// Puts a window in the middle of the primary screen: left is (screen width - window width) \ 2 and
+// top likewise, in whole twips.
+void centreOnScreen(QWidget& window);
+
+}  // namespace ratanka

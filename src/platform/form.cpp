@@ -1,0 +1,101 @@
+#include "platform/form.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <utility>
+
+#include "platform/form_window.h"
+#include "platform/forms.h"
+#include "platform/timer.h"
+
+namespace ratanka {
+
+Form::Form(Forms& forms, FormDesign design) : forms_(forms), design_(std::move(design)) {}
+
+Form::~Form() {
+  connections_.reset();
+  if (window_ != nullptr) leaving_.push_back(std::exchange(window_, nullptr));
+  for (FormWindow* const window : leaving_) window->leaveForm();
+  letGo();
+}
+
+QWidget& Form::window() const { return *window_; }
+
+void Form::load() {
+  if (isLoaded()) return;
+  const HandlerScope scope(*this);
+  connections_ = std::make_unique<QObject>();
+  window_ = new FormWindow(*this, design_);
+  build();
+  Form_Load();
+}
+
+void Form::unload() {
+  if (!isLoaded()) return;
+  const HandlerScope scope(*this);
+  Form_Unload();
+  if (!isLoaded()) return;
+  connections_.reset();
+  FormWindow* const window = std::exchange(window_, nullptr);
+  window->leaveForm();
+  for (Timer* const timer : window->findChildren<Timer*>()) timer->setEnabled(false);
+  window->hide();
+  leaving_.push_back(window);
+}
+
+void Form::bringUp() {
+  window_->show();
+  window_->raise();
+  window_->activateWindow();
+}
+
+void Form::giveFocus(QWidget& control) {
+  control.setFocus();
+  const QWidget* const active = QApplication::activeWindow();
+  const bool isElsewhere = active != nullptr && active != control.window();
+  if (isElsewhere && QApplication::activeModalWidget() == nullptr) {
+    control.window()->raise();
+    control.window()->activateWindow();
+  }
+}
+
+Timer* Form::timer(const QString& name, int milliseconds, std::function<void()> handler) {
+  auto* const result = new Timer(window_, forms_.ticks_);
+  const auto tick = [this, result, handler = std::move(handler)] {
+    if (handlersRunning_ > 0) {
+      result->postpone();
+      return;
+    }
+    const HandlerScope scope(*this);
+    handler();
+  };
+  QObject::connect(result, &Timer::ticked, connections_.get(), tick);
+  result->setObjectName(name);
+  result->setInterval(milliseconds);
+  return result;
+}
+
+void Form::deliverTicks() {
+  if (!isLoaded()) return;
+  for (Timer* const timer : window_->findChildren<Timer*>()) timer->deliver();
+}
+
+void Form::letGo() {
+  // The window may be in the middle of passing on the event that ended it.
+  for (FormWindow* const window : std::exchange(leaving_, {})) window->deleteLater();
+}
+
+Form::HandlerScope::HandlerScope(Form& form) : form_(form.shared_from_this()) {
+  ++form_->handlersRunning_;
+  form_->forms_.handlerStarted();
+}
+
+Form::HandlerScope::~HandlerScope() {
+  if (--form_->handlersRunning_ == 0) {
+    form_->letGo();
+    form_->deliverTicks();
+  }
+  form_->forms_.handlerReturned();
+}
+
+}  // namespace ratanka

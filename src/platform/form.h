@@ -1,0 +1,111 @@
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <memory>
+#include <type_traits>
+#include <vector>
+
+#include "platform/form_name.h"
+#include "platform/units.h"
+
+class QWidget;
+
+namespace ratanka {
+
+class Forms;
+class FormWindow;
+class Timer;
+
+// A form's window as designed.
+struct FormDesign {
+  FormName name;
+  QString caption{};
+  int width = 0;  // of the client area, in twips
+  int height = 0;
+  bool hasBorder = true;
+  Rgb back{255, 255, 255};
+  QString picture{};        // drawn in the upper left corner; none where empty
+  PixelSize pictureSize{};  // in logical pixels
+};
+
+// One form of the program: its variables live in the object, its controls in a window that comes
+// with `load` and goes with `unload`. A subclass lays out its controls in `build`, connects its
+// handlers there by `on`, and answers the events of its life.
+//
+// While a handler of this form runs, the form and the controls that it started with stay in memory,
+// even when it unloads or drops its own form. Controls of an unloaded form can still be touched
+// until then, without an effect. No handler of an unloaded form starts.
+class Form : public std::enable_shared_from_this<Form> {
+ public:
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+  virtual ~Form();
+
+  bool isLoaded() const { return window_ != nullptr; }
+  // Only of a loaded form.
+  QWidget& window() const;
+
+ protected:
+  Form(Forms& forms, FormDesign design);
+
+  // Lays out and connects the controls of a fresh window.
+  virtual void build() = 0;
+  virtual void Form_Load() {}
+  virtual void Form_Unload() {}
+
+  Forms& forms() const { return forms_; }
+
+  // Runs `handler` at each signal of a control of this form, with the signal's arguments where it
+  // takes them.
+  template <typename Sender, typename Signal, typename Handler>
+  void on(Sender* sender, Signal signal, Handler handler) {
+    QObject::connect(sender, signal, connections_.get(), [this, handler](const auto&... arguments) {
+      const HandlerScope scope(*this);
+      if constexpr (std::is_invocable_v<Handler>) {
+        handler();
+      } else {
+        handler(arguments...);
+      }
+    });
+  }
+
+  // A timer of this form, off at first. Its tick is an event between other events: one that comes
+  // while a handler of this form runs, or stands at a box, waits for the handler's end.
+  Timer* timer(const QString& name, int milliseconds, std::function<void()> handler);
+
+  // Gives the keyboard to a control, and brings its window in front where another window of the
+  // program has it.
+  void giveFocus(QWidget& control);
+
+ private:
+  friend class Forms;
+  friend class FormWindow;
+
+  class HandlerScope {
+   public:
+    explicit HandlerScope(Form& form);
+    ~HandlerScope();
+    HandlerScope(const HandlerScope&) = delete;
+    HandlerScope& operator=(const HandlerScope&) = delete;
+
+   private:
+    std::shared_ptr<Form> form_;
+  };
+
+  void load();
+  void unload();
+  void bringUp();
+  void deliverTicks();
+  void letGo();
+
+  Forms& forms_;
+  FormDesign design_;
+  FormWindow* window_ = nullptr;
+  std::unique_ptr<QObject> connections_;  // what every handler hangs on; gone, none can start
+  std::vector<FormWindow*> leaving_;      // unloaded windows that a running handler may stand on
+  int handlersRunning_ = 0;
+};
+
+}  // namespace ratanka

@@ -1,0 +1,78 @@
+#include "platform/forms.h"
+
+#include <QApplication>
+#include <QWidget>
+#include <algorithm>
+
+#include "platform/form.h"
+
+namespace ratanka {
+
+Forms::~Forms() {
+  forms_.clear();
+  // Windows wait for their last event to pass; there is none to come.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+void Forms::setMaker(FormName name, Maker maker) { makers_[name] = std::move(maker); }
+
+void Forms::show(FormName name) {
+  if (isEnding_) return;
+  const std::shared_ptr<Form> form = findOrMake(name);
+  if (!form) return;
+  handlerStarted();
+  form->load();
+  // A form may take itself down while it loads.
+  if (form->isLoaded() && !isEnding_) form->bringUp();
+  handlerReturned();
+}
+
+void Forms::hide(FormName name) {
+  if (const auto form = find(name); form && form->isLoaded()) form->window().hide();
+}
+
+void Forms::unload(FormName name) {
+  if (const auto form = find(name)) form->unload();
+}
+
+void Forms::drop(FormName name) {
+  unload(name);
+  forms_.erase(name);
+}
+
+bool Forms::isLoaded(FormName name) const {
+  const auto form = find(name);
+  return form && form->isLoaded();
+}
+
+void Forms::endProgram() {
+  if (isEnding_) return;
+  isEnding_ = true;
+  // Boxes too: a hidden box lets go of the handler that waits for it.
+  for (QWidget* const window : QApplication::topLevelWidgets()) window->hide();
+  QCoreApplication::exit(0);
+}
+
+std::shared_ptr<Form> Forms::find(FormName name) const {
+  const auto form = forms_.find(name);
+  return form == forms_.end() ? nullptr : form->second;
+}
+
+std::shared_ptr<Form> Forms::findOrMake(FormName name) {
+  if (auto form = find(name)) return form;
+  const auto maker = makers_.find(name);
+  if (maker == makers_.end()) return nullptr;
+  return forms_[name] = maker->second();
+}
+
+bool Forms::anyVisible() const {
+  return std::any_of(forms_.begin(), forms_.end(), [](const auto& entry) {
+    return entry.second->isLoaded() && entry.second->window().isVisible();
+  });
+}
+
+void Forms::handlerReturned() {
+  if (--handlersRunning_ == 0 && !anyVisible()) endProgram();
+}
+
+}  // namespace ratanka

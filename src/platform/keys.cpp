@@ -1,0 +1,71 @@
+#include "platform/keys.h"
+
+#include <QKeyEvent>
+
+namespace ratanka {
+namespace {
+
+int codeOfPlace(quint32 scanCode) {
+  // Scan codes of X11 and Wayland: the kernel's key number plus 8.
+  switch (scanCode) {
+    case 47:
+      return key::kSemicolon;
+    case 59:
+      return key::kComma;
+    case 60:
+      return key::kPeriod;
+    case 61:
+      return key::kSlash;
+    default:
+      return key::kNone;
+  }
+}
+
+int codeOfSign(int sign) {
+  if (sign >= Qt::Key_A && sign <= Qt::Key_Z) return sign;
+  if (sign >= Qt::Key_0 && sign <= Qt::Key_9) return sign;
+  if (sign >= Qt::Key_F1 && sign <= Qt::Key_F12) return key::kF1 + (sign - Qt::Key_F1);
+  switch (sign) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return key::kEnter;
+    case Qt::Key_Backspace:
+      return key::kBackspace;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return key::kTab;
+    case Qt::Key_Clear:
+      return key::kClear;
+    case Qt::Key_Escape:
+      return key::kEscape;
+    case Qt::Key_Space:
+      return key::kSpace;
+    case Qt::Key_Left:
+      return key::kLeft;
+    case Qt::Key_Up:
+      return key::kUp;
+    case Qt::Key_Right:
+      return key::kRight;
+    case Qt::Key_Down:
+      return key::kDown;
+    case Qt::Key_Semicolon:
+      return key::kSemicolon;
+    case Qt::Key_Comma:
+      return key::kComma;
+    case Qt::Key_Period:
+      return key::kPeriod;
+    case Qt::Key_Slash:
+      return key::kSlash;
+    default:
+      return key::kNone;
+  }
+}
+
+}  // namespace
+
+int keyCode(const QKeyEvent& event) {
+  const int place = codeOfPlace(event.nativeScanCode());
+  return place != key::kNone ? place : codeOfSign(event.key());
+}
+
+}  // namespace ratanka

@@ -1,0 +1,62 @@
+#include "platform/pictures.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QSvgRenderer>
+
+namespace ratanka {
+namespace {
+
+class PictureIconEngine : public QIconEngine {
+ public:
+  explicit PictureIconEngine(QString name) : name_(std::move(name)) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+    painter->drawPixmap(rect.topLeft(),
+                        picture(name_, rect.size(), painter->device()->devicePixelRatioF()));
+  }
+
+  QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override {
+    return picture(name_, size, 1);
+  }
+
+  QPixmap scaledPixmap(const QSize& size, QIcon::Mode, QIcon::State, qreal pixelRatio) override {
+    // The engine is asked in the screen's own pixels.
+    return picture(name_, (QSizeF(size) / pixelRatio).toSize(), pixelRatio);
+  }
+
+  QIconEngine* clone() const override { return new PictureIconEngine(name_); }
+
+ private:
+  QString name_;
+};
+
+QPixmap render(const QString& name, QSize size, qreal pixelRatio) {
+  QSvgRenderer renderer(":/pictures/" + name + ".svg");
+  if (!renderer.isValid()) return {};
+  QPixmap result((QSizeF(size) * pixelRatio).toSize());
+  result.fill(Qt::transparent);
+  QPainter painter(&result);
+  renderer.render(&painter);
+  painter.end();
+  result.setDevicePixelRatio(pixelRatio);
+  return result;
+}
+
+}  // namespace
+
+QPixmap picture(const QString& name, QSize size, qreal pixelRatio) {
+  const QString key =
+      QStringLiteral("%1 %2 %3 %4").arg(name).arg(size.width()).arg(size.height()).arg(pixelRatio);
+  QPixmap result;
+  if (!QPixmapCache::find(key, &result)) {
+    result = render(name, size, pixelRatio);
+    QPixmapCache::insert(key, result);
+  }
+  return result;
+}
+
+QIcon pictureIcon(const QString& name) { return QIcon(new PictureIconEngine(name)); }
+
+}  // namespace ratanka

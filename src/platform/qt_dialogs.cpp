@@ -1,0 +1,101 @@
+#include "platform/qt_dialogs.h"
+
+#include <QApplication>
+#include <QInputDialog>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QPointer>
+#include <QTranslator>
+
+#include "platform/forms.h"
+#include "platform/text.h"
+
+namespace ratanka {
+namespace {
+
+// The toolkit's own Slovak. It has the words of the buttons under the name of the class that
+// asked for them in older editions.
+class Slovak : public QTranslator {
+ public:
+  using QTranslator::QTranslator;
+
+  QString translate(const char* context, const char* source, const char* disambiguation,
+                    int n) const override {
+    const QString found = QTranslator::translate(context, source, disambiguation, n);
+    if (!found.isEmpty() || qstrcmp(context, "QPlatformTheme") != 0) return found;
+    return QTranslator::translate("QDialogButtonBox", source, disambiguation, n);
+  }
+};
+
+QMessageBox::Icon iconOf(MessageBox::Icon icon) {
+  switch (icon) {
+    case MessageBox::Icon::information:
+      return QMessageBox::Information;
+    case MessageBox::Icon::exclamation:
+      return QMessageBox::Warning;
+    case MessageBox::Icon::none:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+// The toolkit breaks lines at the line feed alone.
+QString unixLines(const std::string& utf8) { return text(utf8).replace("\r\n", "\n"); }
+
+}  // namespace
+
+void QtDialogs::speakSlovak() {
+  if (speaksSlovak_) return;
+  speaksSlovak_ = true;
+  auto* const translator = new Slovak(QCoreApplication::instance());
+  if (translator->load("qtbase_sk", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+    QCoreApplication::installTranslator(translator);
+  }
+}
+
+Dialogs::Answer QtDialogs::message(const MessageBox& box) {
+  const bool asks = box.buttons == MessageBox::Buttons::yesNo;
+  const Answer unanswered = asks ? Answer::no : Answer::ok;
+  if (forms_.isEnding()) return unanswered;
+  speakSlovak();
+
+  // The window beneath may go while the box is open, and takes the box with it.
+  const QPointer<QMessageBox> window(new QMessageBox(QApplication::activeWindow()));
+  window->setObjectName("MsgBox");
+  window->setWindowTitle(text(box.title));
+  window->setIcon(iconOf(box.icon));
+  window->setTextFormat(Qt::PlainText);
+  window->setText(unixLines(box.text));
+  window->setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  window->setWindowModality(Qt::ApplicationModal);
+
+  heldKeys_.boxOpened();
+  const int pressed = window->exec();
+  heldKeys_.boxClosed();
+  delete window;
+  if (!asks) return Answer::ok;
+  return pressed == QMessageBox::Yes ? Answer::yes : Answer::no;
+}
+
+std::optional<std::string> QtDialogs::input(const std::string& title, const std::string& prompt,
+                                            const std::string& preset) {
+  if (forms_.isEnding()) return std::nullopt;
+  speakSlovak();
+
+  const QPointer<QInputDialog> window(new QInputDialog(QApplication::activeWindow()));
+  window->setObjectName("InputBox");
+  window->setWindowTitle(text(title));
+  window->setLabelText(unixLines(prompt));
+  window->setTextValue(text(preset));
+  window->setWindowModality(Qt::ApplicationModal);
+
+  heldKeys_.boxOpened();
+  const bool accepted = window->exec() == QDialog::Accepted;
+  heldKeys_.boxClosed();
+  std::optional<std::string> entered;
+  if (accepted && !window.isNull()) entered = window->textValue().toStdString();
+  delete window;
+  return entered;
+}
+
+}  // namespace ratanka

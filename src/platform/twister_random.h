@@ -1,0 +1,18 @@
+#pragma once
+
+#include <random>
+
+#include "platform/random.h"
+
+namespace ratanka {
+
+// A Mersenne twister in its standard starting state.
+class TwisterRandom : public Random {
+ public:
+  double next() override;
+
+ private:
+  std::mt19937_64 engine_;
+};
+
+}  // namespace ratanka

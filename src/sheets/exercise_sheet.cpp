@@ -1,0 +1,126 @@
+#include "sheets/exercise_sheet.h"
+
+#include <QPainter>
+
+#include "platform/data_files.h"
+#include "platform/desktop.h"
+#include "platform/forms.h"
+#include "platform/keys.h"
+#include "platform/text.h"
+#include "platform/timer.h"
+#include "shell/names.h"
+
+namespace ratanka::sheets {
+namespace {
+
+const MessageBox kEmptyBox{
+    .title = "Chyba - nebolo zadané číslo",
+    .text = "Okienko nesmie byť prázdne, alebo obsahovať TEXT!\r\n Vždy zadajte číslo - prosím"};
+
+const MessageBox kNothingRight{.title = "Rátanka pre najmenších",
+                               .text =
+                                   "Miláčik, doposiaľ si nevypočítal jediný príklad správne. \r\n"
+                                   "Je to náhoda, však?\r\n"
+                                   "Sústreď sa - ideme znova..."};
+
+}  // namespace
+
+ExerciseSheet::ExerciseSheet(const SheetServices& services, SheetDesign design)
+    : Form(services.forms, {.name = design.name,
+                            .caption = "Malá Rátanka",
+                            .width = 8040,
+                            .height = 7515,
+                            .hasBorder = false,
+                            .picture = "sheet-page",
+                            .pictureSize = {533, 499}}),
+      services_(services),
+      design_(std::move(design)),
+      worksheet_(design_.percentage) {}
+
+void ExerciseSheet::Form_Load() {
+  centreOnScreen(window());
+  kniha_ = AnimatedCursor::load(dataFile("kniha.ANI"));
+  worksheet_.beginVisit(design_.ShowStart(services_.random));
+  refresh();
+  controls(1).box->setFocus();
+  forms().show(names::Hodiny);
+}
+
+void ExerciseSheet::Form_Unload() {
+  kniha_ = {};
+  forms().unload(names::Hodiny);
+}
+
+void ExerciseSheet::Text_KeyUp(int row, int keyCode) {
+  if (keyCode == key::kEnter) answer(row);
+  if (row < kRows) return;
+  ShowVysvedčenie();
+  if (!worksheet_.row(kRows).isOpen) pause_->setEnabled(true);
+}
+
+void ExerciseSheet::answer(int row) {
+  const std::optional<int> next = worksheet_.close(row);
+  refreshRow(row);
+  if (next) controls(*next).box->setFocus();
+  const QString typed = controls(row).box->text();
+  if (typed.isEmpty()) services_.dialogs.message(kEmptyBox);
+  worksheet_.judge(row, typed.toStdString());
+  refresh();
+}
+
+void ExerciseSheet::ShowVysvedčenie() {
+  const std::optional<double> percentage = worksheet_.ShowVysvedčenie();
+  if (percentage) {
+    services_.premenné.*design_.percento = *percentage;
+    refresh();
+  } else {
+    services_.dialogs.message(kNothingRight);
+  }
+}
+
+void ExerciseSheet::ShowOpakuj() {
+  pause_->setEnabled(false);
+  worksheet_.ShowOpakuj(design_.nextSet != nullptr ? design_.nextSet(services_.premenné)
+                                                   : design_.ShowStart(services_.random));
+  for (const RowControls& row : rows_) row.box->clear();
+  refresh();
+  giveFocus(*controls(1).box);
+}
+
+void ExerciseSheet::Timer3_Timer() {
+  if (políčko_ == AnimatedCursor::kMaxSteps) políčko_ = 0;
+  book_->paint([this, step = políčko_](QPainter& painter) { kniha_.draw(painter, step); });
+  ++políčko_;
+}
+
+void ExerciseSheet::backToMenu() {
+  forms().show(names::Úvod);
+  forms().drop(design_.name);
+}
+
+void ExerciseSheet::refresh() {
+  for (int row = 1; row <= kRows; ++row) refreshRow(row);
+  správne_->setText(QString::number(worksheet_.Správne().shown));
+  nesprávne_->setText(QString::number(worksheet_.Nesprávne().shown));
+  if (const std::optional<int> mark = worksheet_.mark()) {
+    mark_->setText(QString::number(*mark));
+    setBack(*mark_, design_.markColours->back.at(static_cast<std::size_t>(*mark - 1)));
+  }
+  reward_->setVisible(worksheet_.isRewarded());
+}
+
+void ExerciseSheet::refreshRow(int number) {
+  const Worksheet::Row& row = worksheet_.row(number);
+  const RowControls& shown = controls(number);
+  shown.first->setText(text(row.example.first));
+  if (shown.sign != nullptr) shown.sign->setText(text(row.example.sign));
+  if (shown.second != nullptr) shown.second->setText(text(row.example.second));
+  shown.box->setOpen(row.isOpen);
+  const bool isWrong = row.outcome == Worksheet::Outcome::wrong;
+  shown.tick->setVisible(row.outcome == Worksheet::Outcome::right);
+  shown.cross->setVisible(isWrong);
+  shown.result->setText(isWrong ? QString::number(row.example.Výsledok) : QString());
+  shown.resultTick->setVisible(isWrong);
+}
+
+}  // namespace ratanka::sheets

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "sheets/sheet_design.h"
+
+// The exercise sheets of the program, a row of data each.
+namespace ratanka::sheets {
+
+SheetDesign Malá();
+
+}  // namespace ratanka::sheets

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/form_name.h"
+
+// The forms of the program by name. Who opens a form needs no more of it.
+namespace ratanka::names {
+
+inline constexpr FormName frmSplash{"frmSplash"};
+inline constexpr FormName Úvod{"Úvod"};
+inline constexpr FormName Vysvedčenie{"Vysvedčenie"};
+inline constexpr FormName Hodiny{"Hodiny"};
+
+inline constexpr FormName Delenie{"Delenie"};
+inline constexpr FormName Malá{"Malá"};
+inline constexpr FormName Veľká{"Veľká"};
+inline constexpr FormName Násobilka{"Násobilka"};
+inline constexpr FormName Hádanka{"Hádanka"};
+inline constexpr FormName Veľkéčísla{"Veľkéčísla"};
+inline constexpr FormName Zátvorky{"Zátvorky"};
+
+inline constexpr FormName Bludisko{"Bludisko"};
+inline constexpr FormName Klavír{"Klavír"};
+inline constexpr FormName frmPuzzle{"frmPuzzle"};
+inline constexpr FormName Piškôrky{"Piškôrky"};
+inline constexpr FormName frmKockovka{"frmKockovka"};
+inline constexpr FormName frmStartUp{"frmStartUp"};
+
+}  // namespace ratanka::names

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/form.h"
+#include "shell/rules/premenne.h"
+
+namespace ratanka {
+
+// The start: looks at the screen, gives its advice and hands over to the menu while it loads, so
+// that it is never seen.
+class frmSplash : public Form {
+ public:
+  frmSplash(Forms& forms, Dialogs& dialogs, const Desktop& desktop, Premenné& premenné);
+
+ protected:
+  void build() override {}
+  void Form_Load() override;
+
+ private:
+  Dialogs& dialogs_;
+  const Desktop& desktop_;
+  Premenné& premenné_;
+};
+
+}  // namespace ratanka

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "platform/form.h"
+
+namespace ratanka {
+
+// The main menu: a button for each kind of reckoning and one for the report card.
+class Úvod : public Form {
+ public:
+  explicit Úvod(Forms& forms);
+
+ protected:
+  void build() override;
+  void Form_Load() override;
+
+ private:
+  // A sheet whose form isn't made leaves the menu as it is.
+  void handOverTo(FormName sheet);
+  void Command6_Click();
+};
+
+}  // namespace ratanka

@@ -1,0 +1,162 @@
+#include "desktop/desktop.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <functional>
+#include <thread>
+
+// After everything else: its macros leave no name alone.
+#include <X11/Xlib.h>
+#include <X11/Xutil.h>
+
+namespace ratanka {
+namespace {
+
+using std::chrono::milliseconds;
+
+bool waitFor(const std::function<bool()>& holds) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  while (!holds()) {
+    if (std::chrono::steady_clock::now() > end) return false;
+    std::this_thread::sleep_for(milliseconds(20));
+  }
+  return true;
+}
+
+pid_t spawn(const std::vector<std::string>& command, const std::vector<std::string>& variables,
+            bool isSilent) {
+  const pid_t child = fork();
+  if (child != 0) return child;
+  for (const std::string& variable : variables) {
+    const std::size_t equals = variable.find('=');
+    setenv(variable.substr(0, equals).c_str(), variable.substr(equals + 1).c_str(), 1);
+  }
+  if (isSilent) {
+    const int nothing = open("/dev/null", O_WRONLY);
+    dup2(nothing, STDOUT_FILENO);
+    dup2(nothing, STDERR_FILENO);
+  }
+  std::vector<char*> arguments;
+  for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
+  arguments.push_back(nullptr);
+  execvp(arguments[0], arguments.data());
+  _exit(127);
+}
+
+void end(pid_t process) {
+  if (process <= 0) return;
+  kill(process, SIGTERM);
+  if (!waitFor([process] { return waitpid(process, nullptr, WNOHANG) != 0; })) {
+    kill(process, SIGKILL);
+    waitpid(process, nullptr, 0);
+  }
+}
+
+// Starts a server on a free display and reads its number.
+pid_t startServer(PixelSize size, std::string& displayName) {
+  int ends[2];
+  if (pipe(ends) != 0) return 0;
+  const std::string screen = std::to_string(size.width) + 'x' + std::to_string(size.height) + "x24";
+  const pid_t server = spawn({"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", screen,
+                              "-nolisten", "tcp", "-noreset"},
+                             {}, true);
+  close(ends[1]);
+  char sign = 0;
+  displayName = ":";
+  while (read(ends[0], &sign, 1) == 1 && sign != '\n') displayName += sign;
+  close(ends[0]);
+  return server;
+}
+
+}  // namespace
+
+PrivateDesktop::PrivateDesktop(PixelSize size) {
+  server_ = startServer(size, displayName_);
+  display_ = XOpenDisplay(displayName_.c_str());
+  if (display_ == nullptr) {
+    ADD_FAILURE() << "no display";
+    return;
+  }
+  windowManager_ = spawn({"openbox"}, {"DISPLAY=" + displayName_}, true);
+  const Atom check = XInternAtom(display_, "_NET_SUPPORTING_WM_CHECK", False);
+  EXPECT_TRUE(waitFor([&] {
+    int count = 0;
+    Atom* const properties = XListProperties(display_, DefaultRootWindow(display_), &count);
+    bool found = false;
+    for (int i = 0; i < count; ++i) found = found || properties[i] == check;
+    if (properties != nullptr) XFree(properties);
+    return found;
+  })) << "no window manager";
+}
+
+PrivateDesktop::~PrivateDesktop() {
+  end(program_);
+  end(windowManager_);
+  if (display_ != nullptr) XCloseDisplay(display_);
+  end(server_);
+}
+
+void PrivateDesktop::startProgram(const std::vector<std::string>& variables) {
+  std::vector<std::string> all = variables;
+  all.push_back("DISPLAY=" + displayName_);
+  all.emplace_back("QT_QPA_PLATFORM=xcb");
+  program_ = spawn({RATANKA_PROGRAM}, all, false);
+}
+
+int PrivateDesktop::waitForEnd() {
+  int status = 0;
+  if (!waitFor([&] { return waitpid(program_, &status, WNOHANG) != 0; })) return -1;
+  program_ = 0;
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+int PrivateDesktop::xdotool(const std::string& arguments) const {
+  const std::string command =
+      "DISPLAY=" + displayName_ + " xdotool " + arguments + " >/dev/null 2>&1";
+  return std::system(command.c_str());  // NOLINT(cert-env33-c): a test's own words
+}
+
+void PrivateDesktop::click(int x, int y) const {
+  xdotool("mousemove " + std::to_string(x) + ' ' + std::to_string(y) + " click 1");
+}
+
+bool PrivateDesktop::hasWindow(const std::string& title) const {
+  return xdotool("search --onlyvisible --name '^" + title + "$'") == 0;
+}
+
+bool PrivateDesktop::waitForWindow(const std::string& title) const {
+  return waitFor([&] { return hasWindow(title); });
+}
+
+bool PrivateDesktop::waitForActive(const std::string& title) const {
+  const std::string check = "DISPLAY=" + displayName_ +
+                            " xdotool getactivewindow getwindowname 2>/dev/null | grep -qx '" +
+                            title + "'";
+  return waitFor([&] { return std::system(check.c_str()) == 0; });  // NOLINT(cert-env33-c)
+}
+
+bool PrivateDesktop::waitUntilGone(const std::string& title) const {
+  return waitFor([&] { return !hasWindow(title); });
+}
+
+Rgb PrivateDesktop::pixel(int x, int y) const {
+  XImage* const image =
+      XGetImage(display_, DefaultRootWindow(display_), x, y, 1, 1, AllPlanes, ZPixmap);
+  if (image == nullptr) return {};
+  const unsigned long value = XGetPixel(image, 0, 0);
+  XDestroyImage(image);
+  const auto part = [value](int shift) { return static_cast<int>((value >> shift) & 0xff); };
+  return {part(16), part(8), part(0)};
+}
+
+bool PrivateDesktop::waitForPixel(int x, int y, const Rgb& colour) const {
+  return waitFor([&] { return pixel(x, y) == colour; });
+}
+
+}  // namespace ratanka

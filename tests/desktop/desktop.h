@@ -1,0 +1,50 @@
+#pragma once
+
+#include <sys/types.h>
+
+#include <string>
+#include <vector>
+
+#include "platform/units.h"
+
+struct _XDisplay;
+
+namespace ratanka {
+
+// A screen of its own with a window manager, and the built program on it: hands and eyes of a child
+// for the tests. Ends everything that it started. Waits give up after ten seconds.
+class PrivateDesktop {
+ public:
+  explicit PrivateDesktop(PixelSize size);
+  ~PrivateDesktop();
+  PrivateDesktop(const PrivateDesktop&) = delete;
+  PrivateDesktop& operator=(const PrivateDesktop&) = delete;
+
+  // Starts the program, with further variables ("NAME=value") in its environment.
+  void startProgram(const std::vector<std::string>& variables = {});
+  // Exit status of the ended program; -1 where it doesn't end or was killed.
+  int waitForEnd();
+
+  // xdotool with these arguments; its exit status.
+  int xdotool(const std::string& arguments) const;
+  void click(int x, int y) const;
+  void key(const std::string& name) const { xdotool("key " + name); }
+
+  // Whether a visible window has (or comes to have) exactly this title.
+  bool hasWindow(const std::string& title) const;
+  bool waitForWindow(const std::string& title) const;
+  bool waitForActive(const std::string& title) const;
+  bool waitUntilGone(const std::string& title) const;
+
+  Rgb pixel(int x, int y) const;
+  bool waitForPixel(int x, int y, const Rgb& colour) const;
+
+ private:
+  std::string displayName_;
+  _XDisplay* display_ = nullptr;
+  pid_t server_ = 0;
+  pid_t windowManager_ = 0;
+  pid_t program_ = 0;
+};
+
+}  // namespace ratanka

@@ -1,0 +1,137 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/random.h"
+#include "platform/ticks.h"
+
+// Doubles of the services, for tests to steer; each records what it was asked for.
+namespace ratanka {
+
+// Chance that draws the told whole numbers, each from 0 to 99 hundredths; 0 after the last.
+class FakeRandom : public Random {
+ public:
+  double next() override {
+    ++drawn;
+    if (numbers.empty()) return 0;
+    const double result = numbers.front();
+    numbers.pop_front();
+    return result;
+  }
+
+  // The next draw that is asked for as one of n numbers gives `number`.
+  void draw(int number, int n) { numbers.push_back((number + 0.5) / n); }
+
+  std::deque<double> numbers;
+  int drawn = 0;
+};
+
+// Time that stands still until it is moved on.
+class FakeTicks : public Ticks {
+ public:
+  std::unique_ptr<Source> every(std::chrono::milliseconds interval,
+                                std::function<void()> tick) override {
+    const int id = ++lastId_;
+    sources_[id] = {now_ + interval, interval, std::move(tick)};
+    return std::make_unique<FakeSource>(*this, id);
+  }
+
+  // Runs all ticks that fall due, in the order of their times.
+  void advance(std::chrono::milliseconds duration) {
+    const std::chrono::milliseconds end = now_ + duration;
+    while (true) {
+      const auto next = std::min_element(
+          sources_.begin(), sources_.end(),
+          [](const auto& a, const auto& b) { return a.second.due < b.second.due; });
+      if (next == sources_.end() || next->second.due > end) break;
+      now_ = next->second.due;
+      next->second.due += next->second.interval;
+      const std::function<void()> tick = next->second.tick;  // the source may end in its tick
+      tick();
+    }
+    now_ = end;
+  }
+
+  std::size_t running() const { return sources_.size(); }
+
+ private:
+  struct Running {
+    std::chrono::milliseconds due{};
+    std::chrono::milliseconds interval{};
+    std::function<void()> tick;
+  };
+
+  class FakeSource : public Source {
+   public:
+    FakeSource(FakeTicks& ticks, int id) : ticks_(ticks), id_(id) {}
+    ~FakeSource() override { ticks_.sources_.erase(id_); }
+    FakeSource(const FakeSource&) = delete;
+    FakeSource& operator=(const FakeSource&) = delete;
+
+   private:
+    FakeTicks& ticks_;
+    int id_;
+  };
+
+  std::chrono::milliseconds now_{0};
+  std::map<int, Running> sources_;
+  int lastId_ = 0;
+};
+
+// Boxes that answer themselves. One that the test didn't expect is a failure.
+class FakeDialogs : public Dialogs {
+ public:
+  ~FakeDialogs() override { EXPECT_TRUE(expected_.empty()) << "a box didn't come up"; }
+
+  // The next box has this title; `whileOpen` happens before it is answered.
+  void expect(const std::string& title, std::function<void()> whileOpen = {},
+              Answer answer = Answer::ok) {
+    expected_.push_back({title, std::move(whileOpen), answer});
+  }
+
+  Answer message(const MessageBox& box) override {
+    shown.push_back(box);
+    if (expected_.empty() || expected_.front().title != box.title) {
+      ADD_FAILURE() << "unexpected box: " << box.title;
+      return box.buttons == MessageBox::Buttons::yesNo ? Answer::no : Answer::ok;
+    }
+    const Expected expected = expected_.front();
+    expected_.pop_front();
+    if (expected.whileOpen) expected.whileOpen();
+    return expected.answer;
+  }
+
+  std::optional<std::string> input(const std::string& title, const std::string&,
+                                   const std::string&) override {
+    ADD_FAILURE() << "unexpected box: " << title;
+    return std::nullopt;
+  }
+
+  std::vector<MessageBox> shown;
+
+ private:
+  struct Expected {
+    std::string title;
+    std::function<void()> whileOpen;
+    Answer answer;
+  };
+
+  std::deque<Expected> expected_;
+};
+
+class FakeDesktop : public Desktop {
+ public:
+  PixelSize size() const override { return mode; }
+  PixelSize mode{1024, 768};
+};
+
+}  // namespace ratanka

@@ -1,0 +1,135 @@
+#include <QLabel>
+#include <QPushButton>
+
+#include "form_driver.h"
+#include "platform/form.h"
+#include "shell/names.h"
+#include "shell/splash.h"
+#include "shell/uvod.h"
+
+namespace ratanka {
+namespace {
+
+class PlainForm : public Form {
+ public:
+  PlainForm(Forms& forms, FormName name)
+      : Form(forms, {.name = name, .width = 3000, .height = 3000}) {}
+
+ protected:
+  void build() override {}
+};
+
+class MenuTest : public FormTest {
+ protected:
+  MenuTest() {
+    forms.setMaker(names::frmSplash, [this] {
+      return std::make_shared<frmSplash>(forms, dialogs, desktop, premenné);
+    });
+    forms.setMaker(names::Úvod, [this] { return std::make_shared<Úvod>(forms); });
+  }
+
+  void make(FormName name) {
+    forms.setMaker(name, [this, name] { return std::make_shared<PlainForm>(forms, name); });
+  }
+
+  void start() {
+    forms.show(names::frmSplash);
+    settle();
+  }
+
+  FakeDesktop desktop;
+  Premenné premenné;
+};
+
+TEST_F(MenuTest, StartsWithTheMenuAloneAndRemembersTheScreen) {
+  start();
+  EXPECT_TRUE(dialogs.shown.empty());
+  EXPECT_FALSE(forms.isLoaded(names::frmSplash));
+  ASSERT_NE(window(names::Úvod), nullptr);
+  EXPECT_TRUE(window(names::Úvod)->isActiveWindow());
+  EXPECT_EQ(premenné.ŠírkaObrazovky, 1024);
+  EXPECT_EQ(premenné.VýškaObrazovky, 768);
+}
+
+TEST_F(MenuTest, AdvisesBeforeTheMenuComes) {
+  desktop.mode = {800, 600};
+  dialogs.expect("Grafické nastavenie", [] { EXPECT_EQ(window(names::Úvod), nullptr); });
+  start();
+  ASSERT_EQ(dialogs.shown.size(), 1U);
+  EXPECT_EQ(dialogs.shown[0].icon, MessageBox::Icon::information);
+  EXPECT_TRUE(dialogs.shown[0].text.find("hodnotu  800 *  600\r\n") != std::string::npos);
+  EXPECT_NE(window(names::Úvod), nullptr);
+}
+
+TEST_F(MenuTest, EachButtonHandsOverToItsSheet) {
+  const std::pair<const char*, FormName> sheets[] = {
+      {"Command1", names::Malá},    {"Command2", names::Veľká},      {"Command3", names::Násobilka},
+      {"Command4", names::Delenie}, {"Command5", names::Veľkéčísla}, {"Command8", names::Zátvorky},
+      {"Command9", names::Hádanka}};
+  for (const auto& [button, sheet] : sheets) {
+    make(sheet);
+    forms.show(names::Úvod);
+    click(control<QPushButton>(names::Úvod, button));
+    settle();
+    EXPECT_TRUE(forms.isLoaded(sheet)) << button;
+    EXPECT_FALSE(forms.isLoaded(names::Úvod)) << button;
+    forms.show(names::Úvod);
+    forms.drop(sheet);
+  }
+}
+
+TEST_F(MenuTest, AButtonWithoutAFormDoesNothing) {
+  start();
+  for (QPushButton* const button : window(names::Úvod)->findChildren<QPushButton*>()) {
+    click(button);
+    settle();
+    ASSERT_NE(window(names::Úvod), nullptr) << button->objectName().toStdString();
+  }
+  EXPECT_FALSE(forms.isEnding());
+}
+
+TEST_F(MenuTest, TheCardClosesAllButTheGames) {
+  start();
+  for (const FormName& name : {names::Vysvedčenie, names::Malá, names::Hodiny, names::Bludisko}) {
+    make(name);
+  }
+  for (const FormName& name : {names::Malá, names::Hodiny, names::Bludisko}) forms.show(name);
+  click(control<QPushButton>(names::Úvod, "Command6"));
+  settle();
+  EXPECT_TRUE(forms.isLoaded(names::Vysvedčenie));
+  EXPECT_TRUE(forms.isLoaded(names::Bludisko));
+  for (const FormName& name : {names::Úvod, names::Malá, names::Hodiny}) {
+    EXPECT_FALSE(forms.isLoaded(name)) << name.text();
+  }
+}
+
+TEST_F(MenuTest, BothEnterKeysAndTheSpaceBarPressAButtonWhenTheyAreReleased) {
+  for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
+    make(names::Veľká);
+    forms.show(names::Úvod);
+    settle();
+    control<QPushButton>(names::Úvod, "Command2")->setFocus();
+    press(key);
+    settle();
+    EXPECT_FALSE(forms.isLoaded(names::Veľká));
+    release(key);
+    settle();
+    EXPECT_TRUE(forms.isLoaded(names::Veľká));
+    forms.show(names::Úvod);
+    forms.drop(names::Veľká);
+  }
+}
+
+TEST_F(MenuTest, StandsInTheMiddleAgainAfterItWasMoved) {
+  start();
+  const QPoint middle = window(names::Úvod)->pos();
+  window(names::Úvod)->move(3, 4);
+  make(names::Malá);
+  click(control<QPushButton>(names::Úvod, "Command1"));
+  settle();
+  forms.show(names::Úvod);
+  EXPECT_EQ(window(names::Úvod)->pos(), middle);
+}
+
+}  // namespace
+}  // namespace ratanka
