@@ -239,7 +239,7 @@ QByteArray bitmap(const QImage& canvas, int size) {
   for (int i = 0; i < 6; ++i) put32(out, 0);
   const int side = kCanvas / size;
   for (int y = size - 1; y >= 0; --y) {
-    QByteArray maskLine((size + 31) / 32 * 4, '\0');
+    QByteArray maskLine(qsizetype{4} * ((size + 31) / 32), '\0');
     for (int x = 0; x < size; ++x) {
       const QRgb pixel = mean(canvas, x * side, y * side, side);
       put32(out, pixel);

@@ -1,7 +1,7 @@
 #include "platform/application.h"
 
 #include <QPalette>
-#include <QStyleFactory>
+#include <QProxyStyle>
 #include <QTimer>
 
 #include "platform/controls.h"
@@ -15,6 +15,19 @@ constexpr Rgb kInk{0x22, 0x30, 0x4a};
 constexpr Rgb kPaper{0xff, 0xfd, 0xf5};
 constexpr Rgb kCard{0xf3, 0xed, 0xdf};
 constexpr Rgb kSky{0x2f, 0x7f, 0xb4};
+
+// The toolkit's plain style with the signs of our own hand in its boxes.
+class Style : public QProxyStyle {
+ public:
+  Style() : QProxyStyle("fusion") {}
+
+  QIcon standardIcon(StandardPixmap sign, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    if (sign == SP_MessageBoxInformation) return pictureIcon("box-information");
+    if (sign == SP_MessageBoxWarning) return pictureIcon("box-exclamation");
+    return QProxyStyle::standardIcon(sign, option, widget);
+  }
+};
 
 QPalette ourPalette() {
   QPalette palette(colour(kCard), colour(kCard));
@@ -33,7 +46,7 @@ QPalette ourPalette() {
 char* withoutDesktopTheme(char* program) {
   qputenv("QT_QPA_PLATFORMTHEME", "generic");
   QApplication::setDesktopSettingsAware(false);
-  QApplication::setStyle("fusion");
+  QApplication::setStyle(new Style);
   return program;
 }
 

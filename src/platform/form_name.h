@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <string_view>
 
 namespace ratanka {
@@ -11,7 +10,10 @@ class FormName {
  public:
   constexpr explicit FormName(std::string_view text) : text_(text) {}
   constexpr std::string_view text() const { return text_; }
-  friend constexpr auto operator<=>(const FormName&, const FormName&) = default;
+  friend constexpr bool operator==(const FormName&, const FormName&) = default;
+  friend constexpr bool operator<(const FormName& a, const FormName& b) {
+    return a.text_ < b.text_;
+  }
 
  private:
   std::string_view text_;

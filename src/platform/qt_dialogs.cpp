@@ -21,7 +21,7 @@ class Slovak : public QTranslator {
 
   QString translate(const char* context, const char* source, const char* disambiguation,
                     int n) const override {
-    const QString found = QTranslator::translate(context, source, disambiguation, n);
+    QString found = QTranslator::translate(context, source, disambiguation, n);
     if (!found.isEmpty() || qstrcmp(context, "QPlatformTheme") != 0) return found;
     return QTranslator::translate("QDialogButtonBox", source, disambiguation, n);
   }

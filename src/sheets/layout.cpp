@@ -121,6 +121,8 @@ void ExerciseSheet::buildStrip() {
                               .back = kWhite,
                               .align = Qt::AlignCenter,
                               .tooltip = design_.markTooltip});
+  // The mark is higher than its field and a digit has no descender: puts it in the middle.
+  mark_->setContentsMargins(0, 4, 0, 0);
   book_ = addPictureBox(window(), "Picture3", {3840, 6840, design_.bookWidth, 540});
 }
 

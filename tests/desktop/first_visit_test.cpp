@@ -61,6 +61,7 @@ TEST(FirstVisit, FromTheStartToTheMarkAndBackToTheMenu) {
     const Rgb tick = desktop.pixel(tickX(), tickY(row));
     EXPECT_TRUE(tick.green > tick.red + 40) << "no tick in row " << row;
   }
+  const Rgb tick = desktop.pixel(tickX(), tickY(1));
   const Corner reward{kSheetCorner.x + 328 + 4, kSheetCorner.y + 440 + 20};
   const Rgb face = desktop.pixel(reward.x, reward.y);
   EXPECT_GT(face.green, face.red + 100) << "no reward";
@@ -68,7 +69,7 @@ TEST(FirstVisit, FromTheStartToTheMarkAndBackToTheMenu) {
   // The pause passes, and the next set stands.
   EXPECT_TRUE(desktop.waitForPixel(tickX(), tickY(1), beforeTheTick));
   answer(desktop, std::to_string(sheets::malá::ShowStart(random)[0].Výsledok));
-  EXPECT_TRUE(desktop.waitForPixel(tickX(), tickY(1), {46, 158, 79}));
+  EXPECT_TRUE(desktop.waitForPixel(tickX(), tickY(1), tick));
   EXPECT_EQ(desktop.pixel(mark.x, mark.y), (Rgb{0, 255, 0}));
 
   clickIn(desktop, kSheetCorner, 456 + 20, 440 + 20);

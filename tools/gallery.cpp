@@ -1,0 +1,157 @@
+// Shows every form in its telling states, without a display, and writes a picture of each.
+//
+//   gallery FOLDER SUFFIX     the forms, each as FOLDER/<form>-<state>SUFFIX.png
+//   gallery --contact FILE    all pictures of the program side by side, at three sizes
+//
+// The magnification is the toolkit's own: QT_SCALE_FACTOR=1.5 gallery ...
+
+#include <QDir>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QTimer>
+#include <algorithm>
+#include <initializer_list>
+
+#include "platform/application.h"
+#include "platform/controls.h"
+#include "platform/forms.h"
+#include "platform/pictures.h"
+#include "platform/qt_dialogs.h"
+#include "platform/qt_ticks.h"
+#include "platform/text.h"
+#include "platform/twister_random.h"
+#include "sheets/exercise_sheet.h"
+#include "sheets/sheets.h"
+#include "shell/names.h"
+#include "shell/uvod.h"
+
+namespace ratanka {
+namespace {
+
+constexpr int kPatience = 400;  // milliseconds, for the book to have turned to a page
+
+class Gallery {
+ public:
+  Gallery(QString folder, QString suffix) : folder_(std::move(folder)), suffix_(std::move(suffix)) {
+    forms_.setMaker(names::Úvod, [this] { return std::make_shared<Úvod>(forms_); });
+  }
+
+  void show() {
+    forms_.show(names::Úvod);
+    take(names::Úvod, "menu");
+    for (const sheets::SheetDesign& design : {sheets::Malá()}) showSheet(design);
+    forms_.endProgram();
+  }
+
+ private:
+  // Fresh, in work, with the box that comes up over an empty answer, and done with mistakes.
+  void showSheet(const sheets::SheetDesign& design) {
+    const FormName name = design.name;
+    forms_.setMaker(name,
+                    [&] { return std::make_shared<sheets::ExerciseSheet>(services_, design); });
+    TwisterRandom sameDraws = random_;
+    const sheets::Examples examples = design.ShowStart(sameDraws);
+    const auto answerRight = [&](std::initializer_list<int> rows) {
+      for (const int row : rows) {
+        answer(name, row, QString::number(examples.at(static_cast<std::size_t>(row - 1)).Výsledok));
+      }
+    };
+
+    forms_.show(name);
+    take(name, "fresh");
+    answerRight({1});
+    answer(name, 2, "x");
+    answerRight({3});
+    box(name, 4).setText("12");
+    box(name, 4).setFocus();
+    take(name, "in-work");
+    QTimer::singleShot(kPatience, qApp, [&] {
+      QWidget* const message = QApplication::activeModalWidget();
+      save(*message, text(name.text()) + "-empty");
+      message->close();
+    });
+    answer(name, 5, "");
+    answerRight({4, 6, 7, 8, 9});
+    take(name, "done");
+    forms_.unload(name);
+  }
+
+  QWidget& window(FormName name) {
+    const auto all = QApplication::topLevelWidgets();
+    return **std::find_if(all.begin(), all.end(), [&](const QWidget* widget) {
+      return widget->objectName() == text(name.text()) && widget->isVisible();
+    });
+  }
+
+  TextBox& box(FormName name, int row) {
+    return *window(name).findChild<TextBox*>("Text" + QString::number(row));
+  }
+
+  void answer(FormName name, int row, const QString& typed) {
+    box(name, row).setText(typed);
+    QKeyEvent enter(QEvent::KeyRelease, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(&box(name, row), &enter);
+  }
+
+  void take(FormName name, const QString& state) {
+    QTimer::singleShot(kPatience, qApp, [] { QCoreApplication::exit(0); });
+    QCoreApplication::exec();
+    save(window(name), text(name.text()) + '-' + state);
+  }
+
+  void save(QWidget& widget, const QString& name) {
+    widget.grab().save(QDir(folder_).filePath(name + suffix_ + ".png"));
+  }
+
+  QString folder_;
+  QString suffix_;
+  QtTicks ticks_;
+  Forms forms_{ticks_};
+  QtDialogs dialogs_{forms_};
+  TwisterRandom random_;
+  Premenné premenné_;
+  sheets::SheetServices services_{forms_, dialogs_, random_, premenné_};
+};
+
+// Every small picture at one, two and three times its size, on paper and on a button's face.
+void writeContactSheet(const QString& file) {
+  constexpr int kCell = 32;
+  constexpr int kGap = 12;
+  const QStringList names = QDir(":/pictures").entryList({"*.svg"}, QDir::Files, QDir::Name);
+  QImage sheet(kGap + 6 * (3 * kCell + kGap),
+               kGap + static_cast<int>(names.size()) * (3 * kCell + kGap), QImage::Format_RGB32);
+  sheet.fill(colour({0xff, 0xfd, 0xf5}));
+  QPainter painter(&sheet);
+  painter.fillRect(sheet.width() / 2, 0, sheet.width() / 2, sheet.height(), QColor(224, 224, 224));
+  int y = kGap;
+  for (QString name : names) {
+    name.chop(4);
+    for (int column = 0; column < 6; ++column) {
+      const int size = kCell * (column % 3 + 1);
+      painter.drawPixmap(kGap + column * (3 * kCell + kGap), y, picture(name, {size, size}, 1));
+    }
+    y += 3 * kCell + kGap;
+  }
+  painter.end();
+  sheet.save(file);
+}
+
+}  // namespace
+}  // namespace ratanka
+
+int main(int argumentCount, char** arguments) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const ratanka::Application application(arguments[0]);
+  if (argumentCount != 3) {
+    qWarning("usage: gallery FOLDER SUFFIX | gallery --contact FILE");
+    return 2;
+  }
+  const QString first = QString::fromLocal8Bit(arguments[1]);
+  const QString second = QString::fromLocal8Bit(arguments[2]);
+  if (first == "--contact") {
+    ratanka::writeContactSheet(second);
+  } else {
+    ratanka::Gallery(first, second).show();
+  }
+  return 0;
+}
