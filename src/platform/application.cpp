@@ -11,6 +11,9 @@
 namespace ratanka {
 namespace {
 
+// The first window is painted by then: the program's sign, drawn at many sizes, delays nothing.
+constexpr std::chrono::milliseconds kIconDelay{300};
+
 constexpr Rgb kInk{0x22, 0x30, 0x4a};
 constexpr Rgb kPaper{0xff, 0xfd, 0xf5};
 constexpr Rgb kCard{0xf3, 0xed, 0xdf};
@@ -66,6 +69,8 @@ Application::Application(char* program)
 
 int Application::run(const std::function<void()>& start) {
   QTimer::singleShot(0, &application_, start);
+  QTimer::singleShot(kIconDelay, &application_,
+                     [] { QApplication::setWindowIcon(pictureIcon("program")); });
   return QApplication::exec();
 }
 

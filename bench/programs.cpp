@@ -1,0 +1,70 @@
+#include "programs.h"
+
+#include <algorithm>
+
+namespace ratanka::bench {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Area kFirstWindow{{0, 0}, 248, 285};
+// Inside the button. The toolkit shows a window's picture as a whole, so this tells of all of it.
+constexpr Area kTellingPixel{{28, 220}, 1, 1};
+constexpr Point kSheetButton{52, 28};
+constexpr Area kPageEdge{{20, 480}, 60, 10};  // of the sheet, where the menu never was
+constexpr auto kSettled = 300ms;
+
+// The bare background has one colour.
+bool isEmpty(const std::string& pixels) {
+  constexpr std::size_t kPixelBytes = 4;
+  return std::equal(pixels.begin() + kPixelBytes, pixels.end(), pixels.begin());
+}
+
+Time startAt(Robot& robot, const Area& area) {
+  awaitUntil(
+      "an empty place", [&] { return isEmpty(robot.look(area)); }, 2ms);
+  robot.forgetWindows();
+  return std::chrono::steady_clock::now();
+}
+
+Area inRow(int row, const Area& inFirstRow) {
+  constexpr int kPitch = 40;
+  return shifted(inFirstRow, {kSheet.at.x, kSheet.at.y + kPitch * (row - 1)});
+}
+
+}  // namespace
+
+Programs Programs::in(const std::string& folder) {
+  return {.ratanka = {{folder + "/ratanka"}, {388, 241}},
+          .bare = {{folder + "/bench/bare_window"}, {388, 241}},
+          .bareEdit = {{folder + "/bench/bare_window", "edit"}, {0, 0}}};
+}
+
+OpenWindow::OpenWindow(Robot& robot, const Program& program)
+    : area_(shifted(kFirstWindow, program.corner)),
+      started_(startAt(robot, area_)),
+      process_(program.command) {
+  const Area pixel = shifted(kTellingPixel, area_.at);
+  const std::string before = robot.look(pixel);
+  robot.awaitWindow();
+  startMilliseconds_ = milliseconds(started_, robot.awaitChange(pixel, before));
+}
+
+Area answerBox(int row) { return inRow(row, {{304, 24}, 39, 24}); }
+
+Area tick(int row) { return inRow(row, {{352, 20}, 32, 32}); }
+
+Area shownResult(int row) { return inRow(row, {{400, 24}, 47, 24}); }
+
+void openSheet(Robot& robot, const OpenWindow& menu) {
+  rest(kSettled);
+  const Area edge = shifted(kPageEdge, kSheet.at);
+  const std::string before = robot.look(edge);
+  robot.click({menu.area().at.x + kSheetButton.x, menu.area().at.y + kSheetButton.y});
+  robot.awaitChange(edge, before);
+  robot.movePointer({});
+  robot.awaitFocus(menu.process().id());
+  rest(kSettled);
+}
+
+}  // namespace ratanka::bench

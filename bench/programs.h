@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "process.h"
+#include "robot.h"
+
+namespace ratanka::bench {
+
+struct Program {
+  std::vector<std::string> command;
+  Point corner;  // upper left one of its first window
+};
+
+// What is compared. All first windows are of one size and have a button at the same place.
+struct Programs {
+  Program ratanka;
+  Program bare;
+  Program bareEdit;  // with a line to type into
+
+  static Programs in(const std::string& folder);
+};
+
+// A program with its first window painted. The place must be empty, or become so at once, as it
+// does behind a program that was just ended.
+class OpenWindow {
+ public:
+  OpenWindow(Robot& robot, const Program& program);
+
+  const Process& process() const { return process_; }
+  Area area() const { return area_; }
+  double startMilliseconds() const { return startMilliseconds_; }  // until it was painted
+
+ private:
+  Area area_;
+  Time started_;
+  Process process_;
+  double startMilliseconds_ = 0;
+};
+
+// Places in the exercise sheet; rows are numbered from 1.
+inline constexpr Area kSheet{{244, 133}, 536, 501};
+Area answerBox(int row);
+Area tick(int row);
+Area shownResult(int row);  // empty unless the answer was wrong
+inline constexpr Point kFreshExamples{244 + 420, 133 + 460};
+
+// Goes from the menu to the sheet of small sums; returns when it stands there and has the keyboard.
+void openSheet(Robot& robot, const OpenWindow& menu);
+
+}  // namespace ratanka::bench

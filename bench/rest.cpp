@@ -1,0 +1,33 @@
+#include "figure.h"
+#include "measures.h"
+
+namespace ratanka::bench {
+namespace {
+
+constexpr std::chrono::seconds kSettled{2};
+
+// A second of a process's life, on the average over so many.
+Process::Usage usageASecond(const Process& process, int seconds) {
+  rest(kSettled);
+  const Process::Usage before = process.usage();
+  rest(std::chrono::seconds(seconds));
+  const Process::Usage after = process.usage();
+  return {.wakeUps = (after.wakeUps - before.wakeUps) / seconds,
+          .cpuSeconds = (after.cpuSeconds - before.cpuSeconds) / seconds};
+}
+
+}  // namespace
+
+void measureRest(Robot& robot, const Programs& programs, int seconds) {
+  const OpenWindow window(robot, programs.ratanka);
+  const Process::Usage menu = usageASecond(window.process(), seconds);
+  print({"at rest, menu: wake-ups a second", menu.wakeUps, "", 0});
+  print({"at rest, menu: of one core", menu.cpuSeconds * 100, "%"});
+
+  openSheet(robot, window);
+  const Process::Usage sheet = usageASecond(window.process(), seconds);
+  print({"at rest, sheet with its book: wake-ups a second", sheet.wakeUps, ""});
+  print({"at rest, sheet with its book: of one core", sheet.cpuSeconds * 100, "%", 0.5});
+}
+
+}  // namespace ratanka::bench
