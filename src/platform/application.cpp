@@ -30,6 +30,12 @@ class Style : public QProxyStyle {
     if (sign == SP_MessageBoxWarning) return pictureIcon("box-exclamation");
     return QProxyStyle::standardIcon(sign, option, widget);
   }
+
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* more) const override {
+    if (hint == SH_DialogButtonBox_ButtonsHaveIcons) return 0;
+    return QProxyStyle::styleHint(hint, option, widget, more);
+  }
 };
 
 QPalette ourPalette() {
