@@ -17,10 +17,15 @@ struct Runs {
   int restSeconds = 10;
   int digitPairs = 100;
   int tickSets = 12;
+  int visits = 100;
 };
 
-constexpr Runs kQuick{
-    .startPairs = 5, .memoryPairs = 2, .restSeconds = 3, .digitPairs = 20, .tickSets = 2};
+constexpr Runs kQuick{.startPairs = 5,
+                      .memoryPairs = 2,
+                      .restSeconds = 3,
+                      .digitPairs = 20,
+                      .tickSets = 2,
+                      .visits = 14};
 
 void measure(const Programs& programs, const Runs& runs) {
   Robot robot;
@@ -33,6 +38,7 @@ void measure(const Programs& programs, const Runs& runs) {
   measureRest(robot, programs, runs.restSeconds);
   measureDigits(robot, programs, runs.digitPairs);
   measureTicks(robot, programs, runs.tickSets);
+  measureVisits(robot, programs, runs.visits);
 }
 
 }  // namespace

@@ -21,4 +21,9 @@ void measureDigits(Robot& robot, const Programs& programs, int pairs);
 // From the release of Enter to the tick of a right answer, nine a set. Needs a window manager.
 void measureTicks(Robot& robot, const Programs& programs, int sets);
 
+// From a click on the menu to the first paint of a sheet and back again, over all sheets in turn,
+// and what so many visits leave in memory; then from the card's OK to the end of the process. Needs
+// a window manager.
+void measureVisits(Robot& robot, const Programs& programs, int visits);
+
 }  // namespace ratanka::bench

@@ -40,11 +40,23 @@ Process::Process(std::vector<std::string> words) {
 }
 
 Process::~Process() {
+  if (id_ == 0) return;
   kill(id_, SIGKILL);
   waitpid(id_, nullptr, 0);
 }
 
+void Process::awaitEnd() {
+  int status = 0;
+  waitpid(id_, &status, 0);
+  id_ = 0;
+  if (status != 0) throw std::runtime_error("a program didn't end well");
+}
+
 double Process::memoryKilobytes() const { return numberIn(folder() + "/smaps_rollup", "Pss:"); }
+
+double Process::ownMemoryKilobytes() const {
+  return numberIn(folder() + "/smaps_rollup", "Private_Dirty:");
+}
 
 Process::Usage Process::usage() const {
   Usage usage;

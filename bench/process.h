@@ -18,8 +18,14 @@ class Process {
 
   pid_t id() const { return id_; }
 
+  // Waits for the process to end by itself; throws where it doesn't end with status 0.
+  void awaitEnd();
+
   // The proportional set: what is shared with other processes counts in equal parts.
   double memoryKilobytes() const;
+
+  // What the process itself has written to; doesn't depend on who else runs.
+  double ownMemoryKilobytes() const;
 
   // Of all threads since the start.
   struct Usage {

@@ -10,8 +10,6 @@ using namespace std::chrono_literals;
 constexpr Area kFirstWindow{{0, 0}, 248, 285};
 // Inside the button. The toolkit shows a window's picture as a whole, so this tells of all of it.
 constexpr Area kTellingPixel{{28, 220}, 1, 1};
-constexpr Point kSheetButton{52, 28};
-constexpr Area kPageEdge{{20, 480}, 60, 10};  // of the sheet, where the menu never was
 constexpr auto kSettled = 300ms;
 
 // The bare background has one colour.
@@ -56,12 +54,13 @@ Area tick(int row) { return inRow(row, {{352, 20}, 32, 32}); }
 
 Area shownResult(int row) { return inRow(row, {{400, 24}, 47, 24}); }
 
+Point sheetButton(int number) { return {388 + 52, 241 + 28 + 32 * number}; }
+
 void openSheet(Robot& robot, const OpenWindow& menu) {
   rest(kSettled);
-  const Area edge = shifted(kPageEdge, kSheet.at);
-  const std::string before = robot.look(edge);
-  robot.click({menu.area().at.x + kSheetButton.x, menu.area().at.y + kSheetButton.y});
-  robot.awaitChange(edge, before);
+  const std::string before = robot.look(kSheetEdge);
+  robot.click(sheetButton(0));
+  robot.awaitChange(kSheetEdge, before);
   robot.movePointer({});
   robot.awaitFocus(menu.process().id());
   rest(kSettled);

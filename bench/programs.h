@@ -29,6 +29,7 @@ class OpenWindow {
   OpenWindow(Robot& robot, const Program& program);
 
   const Process& process() const { return process_; }
+  Process& process() { return process_; }
   Area area() const { return area_; }
   double startMilliseconds() const { return startMilliseconds_; }  // until it was painted
 
@@ -41,10 +42,19 @@ class OpenWindow {
 
 // Places in the exercise sheet; rows are numbered from 1.
 inline constexpr Area kSheet{{244, 133}, 536, 501};
+inline constexpr Area kSheetEdge{{264, 613}, 60, 10};  // where no menu ever stands
 Area answerBox(int row);
 Area tick(int row);
 Area shownResult(int row);  // empty unless the answer was wrong
 inline constexpr Point kFreshExamples{244 + 420, 133 + 460};
+inline constexpr Point kBackToMenu{244 + 476, 133 + 460};
+
+// Places in the menu and in the report card.
+inline constexpr int kSheetButtons = 7;
+Point sheetButton(int number);  // 0 to kSheetButtons - 1, from top to bottom
+inline constexpr Point kCardButton{388 + 120, 241 + 252};
+inline constexpr Area kCardEdge{{345, 560}, 30, 10};  // where no menu ever stands
+inline constexpr Point kCardOk{332 + 181, 152 + 430};
 
 // Goes from the menu to the sheet of small sums; returns when it stands there and has the keyboard.
 void openSheet(Robot& robot, const OpenWindow& menu);

@@ -1,7 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include "platform/twister_random.h"
-#include "sheets/rules/mala.h"
+#include "sheets/rules/sums.h"
 #include "sheets/rules/worksheet.h"
 
 namespace ratanka::sheets {

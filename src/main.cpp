@@ -4,6 +4,7 @@
 #include "platform/qt_dialogs.h"
 #include "platform/qt_ticks.h"
 #include "platform/twister_random.h"
+#include "report/vysvedcenie.h"
 #include "sheets/exercise_sheet.h"
 #include "sheets/sheets.h"
 #include "shell/names.h"
@@ -25,8 +26,13 @@ int main(int, char** arguments) {
   forms.setMaker(names::frmSplash,
                  [&] { return std::make_shared<frmSplash>(forms, dialogs, desktop, premenné); });
   forms.setMaker(names::Úvod, [&] { return std::make_shared<Úvod>(forms); });
-  forms.setMaker(names::Malá,
-                 [&] { return std::make_shared<sheets::ExerciseSheet>(services, sheets::Malá()); });
+  forms.setMaker(names::Vysvedčenie,
+                 [&] { return std::make_shared<report::Vysvedčenie>(forms, premenné); });
+  for (const sheets::SheetDesign& design : sheets::allSheets()) {
+    forms.setMaker(design.name, [&services, design] {
+      return std::make_shared<sheets::ExerciseSheet>(services, design);
+    });
+  }
 
   return application.run([&] { forms.show(names::frmSplash); });
 }

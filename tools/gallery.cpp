@@ -10,7 +10,7 @@
 #include <QPainter>
 #include <QTimer>
 #include <algorithm>
-#include <initializer_list>
+#include <array>
 
 #include "platform/application.h"
 #include "platform/controls.h"
@@ -20,6 +20,7 @@
 #include "platform/qt_ticks.h"
 #include "platform/text.h"
 #include "platform/twister_random.h"
+#include "report/vysvedcenie.h"
 #include "sheets/exercise_sheet.h"
 #include "sheets/sheets.h"
 #include "shell/names.h"
@@ -39,29 +40,33 @@ class Gallery {
   void show() {
     forms_.show(names::Úvod);
     take(names::Úvod, "menu");
-    for (const sheets::SheetDesign& design : {sheets::Malá()}) showSheet(design);
+    int mistakes = 0;
+    for (const sheets::SheetDesign& design : sheets::allSheets()) showSheet(design, ++mistakes);
+    showCard();
     forms_.endProgram();
   }
 
  private:
   // Fresh, in work, with the box that comes up over an empty answer, and done with mistakes.
-  void showSheet(const sheets::SheetDesign& design) {
+  void showSheet(const sheets::SheetDesign& design, int mistakes) {
     const FormName name = design.name;
-    forms_.setMaker(name,
-                    [&] { return std::make_shared<sheets::ExerciseSheet>(services_, design); });
+    forms_.setMaker(name, [this, design] {
+      return std::make_shared<sheets::ExerciseSheet>(services_, design);
+    });
     TwisterRandom sameDraws = random_;
     const sheets::Examples examples = design.ShowStart(sameDraws);
-    const auto answerRight = [&](std::initializer_list<int> rows) {
-      for (const int row : rows) {
-        answer(name, row, QString::number(examples.at(static_cast<std::size_t>(row - 1)).Výsledok));
-      }
+    // The empty row first, so that its box comes up on every sheet.
+    constexpr std::array kMistakenRows{5, 2, 7, 1, 8, 4, 6};
+    const auto answerRow = [&](int row) {
+      const auto* const end = kMistakenRows.begin() + mistakes;
+      const bool isMistaken = std::find(kMistakenRows.begin(), end, row) != end;
+      const int result = examples.at(static_cast<std::size_t>(row - 1)).Výsledok;
+      answer(name, row, row == 5 ? "" : QString::number(isMistaken ? result + 1 : result));
     };
 
     forms_.show(name);
     take(name, "fresh");
-    answerRight({1});
-    answer(name, 2, "x");
-    answerRight({3});
+    for (const int row : {1, 2, 3}) answerRow(row);
     box(name, 4).setText("12");
     box(name, 4).setFocus();
     take(name, "in-work");
@@ -70,10 +75,20 @@ class Gallery {
       save(*message, text(name.text()) + "-empty");
       message->close();
     });
-    answer(name, 5, "");
-    answerRight({4, 6, 7, 8, 9});
+    for (const int row : {5, 4, 6, 7, 8, 9}) answerRow(row);
     take(name, "done");
     forms_.unload(name);
+  }
+
+  void showCard() {
+    forms_.setMaker(names::Vysvedčenie,
+                    [this] { return std::make_shared<report::Vysvedčenie>(forms_, premenné_); });
+    forms_.show(names::Vysvedčenie);
+    take(names::Vysvedčenie, "full");
+    forms_.unload(names::Vysvedčenie);
+    premenné_ = {};
+    forms_.show(names::Vysvedčenie);
+    take(names::Vysvedčenie, "empty");
   }
 
   QWidget& window(FormName name) {

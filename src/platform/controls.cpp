@@ -50,29 +50,10 @@ class Line : public QWidget {
   QColor colour_;
 };
 
-class Button : public QPushButton {
- public:
-  using QPushButton::QPushButton;
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override {
-    QKeyEvent asSpace = withEnterAsSpace(*event);
-    QPushButton::keyPressEvent(&asSpace);
-    event->setAccepted(asSpace.isAccepted());
-  }
-
-  void keyReleaseEvent(QKeyEvent* event) override {
-    QKeyEvent asSpace = withEnterAsSpace(*event);
-    QPushButton::keyReleaseEvent(&asSpace);
-    event->setAccepted(asSpace.isAccepted());
-  }
-
- private:
-  static QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
-    const int key = keyCode(event) == key::kEnter ? static_cast<int>(Qt::Key_Space) : event.key();
-    return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
-  }
-};
+QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
+  const int key = keyCode(event) == key::kEnter ? static_cast<int>(Qt::Key_Space) : event.key();
+  return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
+}
 
 }  // namespace
 
@@ -98,12 +79,35 @@ void setBack(QLabel& label, const Rgb& back) {
   label.setAutoFillBackground(true);
 }
 
+void setBackReadably(QLabel& label, const Rgb& back) {
+  // The darkest of the colours that ink still reads on is a pure red.
+  const double brightness = 0.2126 * back.red + 0.7152 * back.green + 0.0722 * back.blue;
+  constexpr double kDark = 40;
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText,
+                   brightness < kDark ? QColor(Qt::white) : colour(kInkColour));
+  label.setPalette(palette);
+  setBack(label, back);
+}
+
 void TextBox::setOpen(bool open) {
   if (open == isEnabled()) return;
   // The toolkit would hand the keyboard of a disabled control to the next one in its tab order.
   if (!open && hasFocus()) window()->setFocus();
   setFrame(open);
   setEnabled(open);
+}
+
+void TextBox::keyPressEvent(QKeyEvent* event) {
+  const std::optional<char> digit = digitOfRow(*event);
+  if (!digit) {
+    QLineEdit::keyPressEvent(event);
+    return;
+  }
+  QKeyEvent typed(event->type(), *digit, Qt::NoModifier, QString(QLatin1Char(*digit)),
+                  event->isAutoRepeat());
+  QLineEdit::keyPressEvent(&typed);
+  event->setAccepted(typed.isAccepted());
 }
 
 void TextBox::keyReleaseEvent(QKeyEvent* event) {
@@ -117,7 +121,6 @@ TextBox* addTextBox(QWidget& form, const TextBoxDesign& design) {
   setUp(*box, design.name, design.place);
   box->setMaxLength(design.maxLength);
   box->setFont(font(design.type));
-  box->setAccessibleName(design.accessibleName);
   box->setContextMenuPolicy(Qt::NoContextMenu);
   box->setAcceptDrops(false);
   QPalette palette = box->palette();
@@ -167,7 +170,24 @@ PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place
   return box;
 }
 
-QPushButton* addButton(QWidget& form, const ButtonDesign& design) {
+void Button::keyPressEvent(QKeyEvent* event) {
+  QKeyEvent asSpace = withEnterAsSpace(*event);
+  QPushButton::keyPressEvent(&asSpace);
+  event->setAccepted(asSpace.isAccepted());
+}
+
+void Button::keyReleaseEvent(QKeyEvent* event) {
+  QKeyEvent asSpace = withEnterAsSpace(*event);
+  QPushButton::keyReleaseEvent(&asSpace);
+  event->setAccepted(asSpace.isAccepted());
+}
+
+void Button::mouseMoveEvent(QMouseEvent* event) {
+  QPushButton::mouseMoveEvent(event);
+  if (hasMouseTracking()) emit pointerMoved();
+}
+
+Button* addButton(QWidget& form, const ButtonDesign& design) {
   auto* const button = new Button(design.caption, &form);
   setUp(*button, design.name, design.place);
   button->setToolTip(design.tooltip);
@@ -180,6 +200,8 @@ QPushButton* addButton(QWidget& form, const ButtonDesign& design) {
     button->setIconSize({design.iconSize, design.iconSize});
   }
   if (design.caption.isEmpty()) button->setAccessibleName(spoken(design.tooltip));
+  button->setMouseTracking(design.isShy);
+  if (design.isShy) button->setFocusPolicy(Qt::NoFocus);
   button->setVisible(design.visible);
   return button;
 }

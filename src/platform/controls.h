@@ -31,9 +31,13 @@ struct LabelDesign {
   QString tooltip{};
 };
 QLabel* addLabel(QWidget& form, const LabelDesign& design);
+// Fills a label with a colour.
 void setBack(QLabel& label, const Rgb& back);
+// Fills it and writes on it in ink or in white, whichever reads better there.
+void setBackReadably(QLabel& label, const Rgb& back);
 
-// A line of text to type into; tells of each key that is released in it.
+// A line of text to type into; tells of each key that is released in it. The digit keys of a
+// keyboard that has letters and signs there type digits.
 class TextBox : public QLineEdit {
   Q_OBJECT
 
@@ -48,6 +52,7 @@ class TextBox : public QLineEdit {
   void keyUp(int keyCode);
 
  protected:
+  void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 };
 
@@ -56,7 +61,6 @@ struct TextBoxDesign {
   Place place;
   int maxLength = 0;
   Type type{};
-  QString accessibleName{};
 };
 TextBox* addTextBox(QWidget& form, const TextBoxDesign& design);
 
@@ -97,6 +101,23 @@ class PictureBox : public QWidget {
 };
 PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place);
 
+// Pressed by the mouse, the space bar and both Enter keys, at the release.
+class Button : public QPushButton {
+  Q_OBJECT
+
+ public:
+  using QPushButton::QPushButton;
+
+ signals:
+  // The pointer moves over a shy button.
+  void pointerMoved();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void keyReleaseEvent(QKeyEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+};
+
 struct ButtonDesign {
   QString name;
   Place place;
@@ -107,8 +128,8 @@ struct ButtonDesign {
   int iconSize = 32;  // logical pixels
   Type type{};
   bool visible = true;
+  bool isShy = false;  // feels the pointer, never gets the keyboard
 };
-// Pressed by the mouse, the space bar and both Enter keys, at the release.
-QPushButton* addButton(QWidget& form, const ButtonDesign& design);
+Button* addButton(QWidget& form, const ButtonDesign& design);
 
 }  // namespace ratanka

@@ -1,6 +1,8 @@
 #include "platform/keys.h"
 
 #include <QKeyEvent>
+#include <QStringView>
+#include <array>
 
 namespace ratanka {
 namespace {
@@ -62,6 +64,32 @@ int codeOfSign(int sign) {
 }
 
 }  // namespace
+
+std::optional<char> digitOfRow(const QKeyEvent& event) {
+  struct Key {
+    char digit;
+    QStringView signs;
+  };
+  // From the key of 1 to that of 0.
+  static constexpr std::array<Key, 10> kRow{{{'1', u"+"},
+                                             {'2', u"ľě"},
+                                             {'3', u"š"},
+                                             {'4', u"č"},
+                                             {'5', u"ťř"},
+                                             {'6', u"ž"},
+                                             {'7', u"ý"},
+                                             {'8', u"á"},
+                                             {'9', u"í"},
+                                             {'0', u"é"}}};
+  constexpr quint32 kFirstScanCode = 10;
+  const quint32 place = event.nativeScanCode() - kFirstScanCode;
+  const QString sign = event.text().toLower();
+  if (event.modifiers() != Qt::NoModifier || sign.size() != 1 || place >= kRow.size()) {
+    return std::nullopt;
+  }
+  const Key& key = kRow.at(place);
+  return key.signs.contains(sign.front()) ? std::optional(key.digit) : std::nullopt;
+}
 
 int keyCode(const QKeyEvent& event) {
   const int place = codeOfPlace(event.nativeScanCode());

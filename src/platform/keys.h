@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 class QKeyEvent;
 
 namespace ratanka {
@@ -29,5 +31,10 @@ inline constexpr int kSlash = 191;
 // the key; the four signs at the lower right, which a Slovak keyboard has elsewhere, go by their
 // place on the keyboard.
 int keyCode(const QKeyEvent& event);
+
+// The digit of a key in the row above the letters, where that key by itself types one of the signs
+// that Slovak and Czech keyboards have there (+ ľ š č ť ž ý á í é, + ě š č ř ž ý á í é). Nothing
+// for a key that is pressed with another one, and for all other keys and layouts.
+std::optional<char> digitOfRow(const QKeyEvent& event);
 
 }  // namespace ratanka

@@ -23,6 +23,12 @@ const MessageBox kNothingRight{.title = "Rátanka pre najmenších",
                                    "Je to náhoda, však?\r\n"
                                    "Sústreď sa - ideme znova..."};
 
+// A number that a listener hears with its meaning.
+void show(QLabel& label, const QString& meaning, int number) {
+  label.setText(QString::number(number));
+  label.setAccessibleName(meaning + label.text());
+}
+
 }  // namespace
 
 ExerciseSheet::ExerciseSheet(const SheetServices& services, SheetDesign design)
@@ -66,6 +72,7 @@ void ExerciseSheet::answer(int row) {
   if (typed.isEmpty()) services_.dialogs.message(kEmptyBox);
   worksheet_.judge(row, typed.toStdString());
   refresh();
+  tell(row);
 }
 
 void ExerciseSheet::ShowVysvedčenie() {
@@ -80,7 +87,7 @@ void ExerciseSheet::ShowVysvedčenie() {
 
 void ExerciseSheet::ShowOpakuj() {
   pause_->setEnabled(false);
-  worksheet_.ShowOpakuj(design_.nextSet != nullptr ? design_.nextSet(services_.premenné)
+  worksheet_.ShowOpakuj(design_.nextSet != nullptr ? design_.nextSet(services_.premenné.DelenieKolo)
                                                    : design_.ShowStart(services_.random));
   for (const RowControls& row : rows_) row.box->clear();
   refresh();
@@ -95,16 +102,18 @@ void ExerciseSheet::Timer3_Timer() {
 
 void ExerciseSheet::backToMenu() {
   forms().show(names::Úvod);
-  forms().drop(design_.name);
+  if (design_.leavingClosesGame) forms().drop(design_.reward.game);
+  forms().unload(design_.name);
+  if (!design_.keepsCounting) forms().drop(design_.name);
 }
 
 void ExerciseSheet::refresh() {
   for (int row = 1; row <= kRows; ++row) refreshRow(row);
-  správne_->setText(QString::number(worksheet_.Správne().shown));
-  nesprávne_->setText(QString::number(worksheet_.Nesprávne().shown));
+  show(*správne_, "Správne odpovede: ", worksheet_.Správne().shown);
+  show(*nesprávne_, "Nesprávne odpovede: ", worksheet_.Nesprávne().shown);
   if (const std::optional<int> mark = worksheet_.mark()) {
-    mark_->setText(QString::number(*mark));
-    setBack(*mark_, design_.markColours->back.at(static_cast<std::size_t>(*mark - 1)));
+    show(*mark_, "Známka: ", *mark);
+    setBackReadably(*mark_, design_.markColours->back.at(static_cast<std::size_t>(*mark - 1)));
   }
   reward_->setVisible(worksheet_.isRewarded());
 }
@@ -121,6 +130,18 @@ void ExerciseSheet::refreshRow(int number) {
   shown.cross->setVisible(isWrong);
   shown.result->setText(isWrong ? QString::number(row.example.Výsledok) : QString());
   shown.resultTick->setVisible(isWrong);
+  shown.box->setAccessibleName(
+      text("Príklad " + std::to_string(number) + ": " + spoken(row.example)));
+  shown.box->setAccessibleDescription(text(verdict(row)));
+}
+
+void ExerciseSheet::tell(int number) {
+  // The keyboard has moved on: what a listener hears next is the box that has it now.
+  const std::string heard =
+      "Príklad " + std::to_string(number) + ": " + verdict(worksheet_.row(number));
+  for (const RowControls& row : rows_) {
+    if (row.box->hasFocus()) row.box->setAccessibleDescription(text(heard));
+  }
 }
 
 }  // namespace ratanka::sheets

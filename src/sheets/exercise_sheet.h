@@ -47,6 +47,7 @@ class ExerciseSheet : public Form {
   void buildRow(int row);
   void buildStrip();
   void buildButtons();
+  void buildShyButtons();
 
   void Text_KeyUp(int row, int keyCode);
   void answer(int row);
@@ -58,6 +59,8 @@ class ExerciseSheet : public Form {
   // Copies what the rules say to the controls.
   void refresh();
   void refreshRow(int row);
+  // Lets a listener hear how a row was judged.
+  void tell(int row);
 
   RowControls& controls(int row) { return rows_.at(static_cast<std::size_t>(row - 1)); }
 

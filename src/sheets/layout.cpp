@@ -29,22 +29,51 @@ QString numbered(const char* name, int number) { return name + QString::number(n
 
 Place imageAt(int left, int top) { return {left, top, kImageSide, kImageSide}; }
 
+template <typename DesignRow>
+RowDesigns eachRow(DesignRow designRow) {
+  RowDesigns rows;
+  int row = 0;
+  for (RowDesign& design : rows) design = designRow(++row);
+  return rows;
+}
+
 }  // namespace
 
 RowDesigns plainRows() {
-  RowDesigns rows;
-  for (int row = 1; row <= kRows; ++row) {
-    rows.at(static_cast<std::size_t>(row - 1)) = {.first = {4 * row - 3, 1080, 705},
-                                                  .sign = {4 * row - 2, 1800, 825},
-                                                  .second = {4 * row - 1, 2640, 825}};
-  }
-  return rows;
+  return eachRow([](int row) -> RowDesign {
+    return {.first = {4 * row - 3, 1080, 705},
+            .sign = {4 * row - 2, 1800, 825},
+            .second = {4 * row - 1, 2640, 825}};
+  });
+}
+
+RowDesigns oneLabelRows(int left, int width) {
+  return eachRow([=](int row) -> RowDesign { return {.first = {4 * row - 3, left, width}}; });
+}
+
+RowDesigns hiddenOperandRows() {
+  // Which of a row's three labels holds the known operand; the right side has the opposite one.
+  constexpr std::array<int, kRows> kKnownLabel{1, 5, 9, 15, 19, 21, 25, 31, 33};
+  return eachRow([&](int row) -> RowDesign {
+    const bool hidesFirst = row == 2 || row == 4 || row == 5;
+    const bool judgedOnTheLeft = hidesFirst || row == 8;
+    const int known = kKnownLabel.at(static_cast<std::size_t>(row - 1));
+    const int sign = 4 * row - 2;
+    return {.first = {known, hidesFirst ? 2640 : 1080, 705},
+            .sign = {sign, 2040, 465},
+            .second = {2 * sign - known, 4680, 825},
+            .equalsLeft = 4200,
+            .boxLeft = hidesFirst ? 720 : 2520,
+            .tickLeft = judgedOnTheLeft ? 1440 : 3360,
+            .crossLeft = judgedOnTheLeft ? 1440 : 3240};
+  });
 }
 
 void ExerciseSheet::build() {
   for (int row = 1; row <= kRows; ++row) buildRow(row);
   buildStrip();
   buildButtons();
+  buildShyButtons();
   pause_ = timer("Timer1", kPauseMilliseconds, [this] { ShowOpakuj(); });
   timer(design_.bookTimer, kBookMilliseconds, [this] { Timer3_Timer(); })->setEnabled(true);
 }
@@ -84,8 +113,7 @@ void ExerciseSheet::buildRow(int row) {
   made.box = addTextBox(window(), {.name = numbered("Text", row),
                                    .place = {design.boxLeft, top, design.boxWidth, kRowHeight},
                                    .maxLength = kAnswerLength,
-                                   .type = {.points = 9.75, .bold = true},
-                                   .accessibleName = numbered("Odpoveď ", row)});
+                                   .type = {.points = 9.75, .bold = true}});
   made.tick = image(-2, design.tickLeft, "tick", "Správne");
   made.cross = image(-1, design.crossLeft, "cross", "Nesprávne");
   made.result = addLabel(window(), {.name = numbered("Label", 4 * row),
@@ -97,9 +125,28 @@ void ExerciseSheet::buildRow(int row) {
   on(made.box, &TextBox::keyUp, [this, row](int keyCode) { Text_KeyUp(row, keyCode); });
 }
 
+void ExerciseSheet::buildShyButtons() {
+  std::vector<Button*> buttons;
+  for (const ShyButton& shy : design_.shyButtons) {
+    buttons.push_back(addButton(window(), {.name = shy.name,
+                                           .place = {shy.left, 5760, 1095, 375},
+                                           .caption = "Kalkulačka",
+                                           .visible = shy.visible,
+                                           .isShy = true}));
+  }
+  for (Button* const button : buttons) {
+    on(button, &Button::pointerMoved, [button, buttons] {
+      for (Button* const each : buttons) each->setVisible(each != button);
+    });
+  }
+}
+
 void ExerciseSheet::buildStrip() {
-  const auto image = [this](const char* name, int left, int top, const char* picture) {
-    addImage(window(), {.name = name, .place = imageAt(left, top), .picture = picture});
+  const auto image = [this](const char* name, int left, int top, const char* picture,
+                            const char* spoken) {
+    addImage(
+        window(),
+        {.name = name, .place = imageAt(left, top), .picture = picture, .accessibleName = spoken});
   };
   const auto counter = [this](const char* name, int left, const Rgb& fore, const char* tooltip) {
     return addLabel(window(), {.name = name,
@@ -109,21 +156,23 @@ void ExerciseSheet::buildStrip() {
                                .fore = fore,
                                .tooltip = design_.countersHaveTooltips ? tooltip : ""});
   };
-  image("Image28", 1200, 6360, "face-happy");
-  image("Image30", 1560, 6840, "tick");
+  image("Image28", 1200, 6360, "face-happy", "Správne odpovede");
+  image("Image30", 1560, 6840, "tick", "Správne");
   správne_ = counter("Label37", 1320, kGreen, " Vypočítaných príkladov ");
-  image("Image29", 2760, 6360, "face-sad");
-  image("Image31", 3120, 6840, "cross");
+  image("Image29", 2760, 6360, "face-sad", "Nesprávne odpovede");
+  image("Image31", 3120, 6840, "cross", "Nesprávne");
   nesprávne_ = counter("Label38", 2880, design_.wrongColour, " Nevypočítaných príkladov ");
   mark_ = addLabel(window(), {.name = "Label39",
                               .place = design_.markPlace,
                               .type = {.family = "Courier New", .points = 27.75, .bold = true},
                               .back = kWhite,
                               .align = Qt::AlignCenter,
-                              .tooltip = design_.markTooltip});
+                              .tooltip = design_.countersHaveTooltips ? " Priebežné hodnotenie  "
+                                                                      : " Priebežné hodnotenie "});
   // The mark is higher than its field and a digit has no descender: puts it in the middle.
   mark_->setContentsMargins(0, 4, 0, 0);
   book_ = addPictureBox(window(), "Picture3", {3840, 6840, design_.bookWidth, 540});
+  book_->setAccessibleName("Kniha");
 }
 
 void ExerciseSheet::buildButtons() {

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <array>
+#include <vector>
 
 #include "platform/controls.h"
 #include "platform/form_name.h"
@@ -21,9 +22,9 @@ struct RowLabel {
 
 // Where the controls of one row stand, in twips.
 struct RowDesign {
-  RowLabel first;
-  RowLabel sign;
-  RowLabel second;
+  RowLabel first{};
+  RowLabel sign{};
+  RowLabel second{};
   int equalsLeft = 3480;
   int boxLeft = 4560;
   int boxWidth = 585;
@@ -32,8 +33,12 @@ struct RowDesign {
 };
 using RowDesigns = std::array<RowDesign, kRows>;
 
-// The rows of a plain sheet: operand, operator, operand, equals sign, box.
+// Rows of operand, operator, operand, equals sign, box.
 RowDesigns plainRows();
+// Rows with the whole example in one label that begins at `left`.
+RowDesigns oneLabelRows(int left, int width);
+// Rows with the box in the place of one operand, the equals sign and the right side after it.
+RowDesigns hiddenOperandRows();
 
 struct MarkColours {
   std::array<Rgb, 5> back;  // of the marks 1 to 5
@@ -52,15 +57,23 @@ struct RewardDesign {
   Rgb back{224, 224, 224};
 };
 
+// A button that can't be caught: where the pointer comes over it, it hides and the other one of the
+// two shows.
+struct ShyButton {
+  QString name;
+  int left = 0;
+  bool visible = false;
+};
+
 struct SheetDesign {
   FormName name;
   Examples (*ShowStart)(Random& random) = nullptr;
   // The next set where it isn't a fresh ShowStart; no examples: the old ones are asked again.
-  std::optional<Examples> (*nextSet)(Premenné& premenné) = nullptr;
+  std::optional<Examples> (*nextSet)(std::int16_t& DelenieKolo) = nullptr;
   Worksheet::Percentage percentage = Worksheet::Percentage::exact;
   double Premenné::*percento = nullptr;
 
-  RowDesigns rows;
+  RowDesigns rows{};
   double signPoints = 13.5;
   // Names of the reward button, of " Nové príklady " and of " Návrat do MENU ".
   std::array<QString, 3> buttons{"Command1", "Command2", "Command3"};
@@ -68,10 +81,13 @@ struct SheetDesign {
   RewardDesign reward;
   bool countersHaveTooltips = false;
   Rgb wrongColour{255, 0, 0};
-  Place markPlace;
-  QString markTooltip = " Priebežné hodnotenie ";
+  Place markPlace{1920, 6840, 615, 495};
   const MarkColours* markColours = &kColoursA;
   int bookWidth = 615;
+  std::vector<ShyButton> shyButtons{};  // none or two
+
+  bool leavingClosesGame = false;
+  bool keepsCounting = false;  // the counters live on after the sheet is left
 };
 
 }  // namespace ratanka::sheets

@@ -5,6 +5,14 @@
 // The exercise sheets of the program, a row of data each.
 namespace ratanka::sheets {
 
+std::vector<SheetDesign> allSheets();
+
+SheetDesign Delenie();
 SheetDesign Malá();
+SheetDesign Veľká();
+SheetDesign Násobilka();
+SheetDesign Hádanka();
+SheetDesign Veľkéčísla();
+SheetDesign Zátvorky();
 
 }  // namespace ratanka::sheets

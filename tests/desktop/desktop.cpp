@@ -155,6 +155,18 @@ Rgb PrivateDesktop::pixel(int x, int y) const {
   return {part(16), part(8), part(0)};
 }
 
+std::string PrivateDesktop::darkness(int x, int y, PixelSize size) const {
+  std::string shape;
+  for (int row = 0; row < size.height; ++row) {
+    for (int column = 0; column < size.width; ++column) {
+      const Rgb colour = pixel(x + column, y + row);
+      shape += colour.red + colour.green + colour.blue < 3 * 110 ? '#' : '.';
+    }
+    shape += '\n';
+  }
+  return shape;
+}
+
 bool PrivateDesktop::waitForPixel(int x, int y, const Rgb& colour) const {
   return waitFor([&] { return pixel(x, y) == colour; });
 }

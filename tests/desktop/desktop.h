@@ -37,6 +37,8 @@ class PrivateDesktop {
   bool waitUntilGone(const std::string& title) const;
 
   Rgb pixel(int x, int y) const;
+  // Where something dark stands in an area: '#' for dark, '.' for the rest, a line a row.
+  std::string darkness(int x, int y, PixelSize size) const;
   bool waitForPixel(int x, int y, const Rgb& colour) const;
 
  private:

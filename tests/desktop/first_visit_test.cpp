@@ -3,28 +3,14 @@
 #include <chrono>
 #include <thread>
 
-#include "desktop/desktop.h"
+#include "desktop/places.h"
 #include "platform/twister_random.h"
-#include "sheets/rules/mala.h"
+#include "sheets/rules/sums.h"
 
 namespace ratanka {
 namespace {
 
-constexpr PixelSize kScreen{1024, 768};
-constexpr auto kMenu = "Rátanka Menu";
-constexpr auto kSheet = "Malá Rátanka";
 constexpr Rgb kPaper{255, 253, 245};
-
-// Where a window's upper left corner stands, and a point in it.
-struct Corner {
-  int x, y;
-};
-constexpr Corner kMenuCorner{(kScreen.width - 248) / 2, (kScreen.height - 285) / 2};
-constexpr Corner kSheetCorner{(kScreen.width - 536) / 2, (kScreen.height - 501) / 2};
-
-void clickIn(const PrivateDesktop& desktop, const Corner& corner, int x, int y) {
-  desktop.click(corner.x + x, corner.y + y);
-}
 
 int tickX() { return kSheetCorner.x + 352 + 12; }
 // In the lower bend of the tick of a row.
@@ -32,14 +18,9 @@ int tickY(int row) { return kSheetCorner.y + 24 + 40 * (row - 1) - 4 + 24; }
 
 void openSheet(const PrivateDesktop& desktop) {
   ASSERT_TRUE(desktop.waitForActive(kMenu));
-  clickIn(desktop, kMenuCorner, 50, 28);
+  clickMenu(desktop, 0);
   ASSERT_TRUE(desktop.waitForActive(kSheet));
   EXPECT_TRUE(desktop.waitUntilGone(kMenu));
-}
-
-void answer(const PrivateDesktop& desktop, const std::string& text) {
-  for (const char digit : text) desktop.key(std::string(1, digit));
-  desktop.key("Return");
 }
 
 TEST(FirstVisit, FromTheStartToTheMarkAndBackToTheMenu) {

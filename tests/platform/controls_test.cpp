@@ -26,6 +26,32 @@ TEST(KeyCodes, AreTheSystems) {
   EXPECT_EQ(code(Qt::Key_VolumeUp), key::kNone);
 }
 
+TEST(DigitRow, TypesDigitsOnSlovakAndCzechKeyboardsAlone) {
+  const auto digit = [](quint32 scanCode, const char* text,
+                        Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    return digitOfRow(QKeyEvent(QEvent::KeyPress, 0, modifiers, scanCode, 0, 0, text));
+  };
+  quint32 place = 10;
+  for (const char* sign : {"+", "ľ", "š", "č", "ť", "ž", "ý", "á", "í", "é"}) {
+    EXPECT_EQ(digit(place, sign), "1234567890"[place - 10]) << sign;
+    ++place;
+  }
+  EXPECT_EQ(digit(11, "ě"), '2');
+  EXPECT_EQ(digit(14, "ř"), '5');
+  EXPECT_EQ(digit(12, "Š"), '3') << "Caps Lock";
+  EXPECT_EQ(digit(11, "2", Qt::ShiftModifier), std::nullopt);
+  EXPECT_EQ(digit(12, "š", Qt::ControlModifier), std::nullopt);
+  EXPECT_EQ(digit(86, "+", Qt::KeypadModifier), std::nullopt);
+  EXPECT_EQ(digit(11, "é"), std::nullopt) << "a French keyboard";
+  EXPECT_EQ(digit(10, "1"), std::nullopt);
+  EXPECT_EQ(digit(38, "á"), std::nullopt);
+
+  TextBox box;
+  QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, 15, 0, 0, "ž");
+  QCoreApplication::sendEvent(&box, &press);
+  EXPECT_EQ(box.text(), "6");
+}
+
 TEST(Controls, StandWhereTheirTwipsSay) {
   QWidget form;
   EXPECT_EQ(addLabel(form, {.name = "l", .place = {1080, 360, 705, 255}})->geometry(),

@@ -46,4 +46,16 @@ void Worksheet::ShowOpakuj(const std::optional<Examples>& examples) {
   }
 }
 
+std::string verdict(const Worksheet::Row& row) {
+  switch (row.outcome) {
+    case Worksheet::Outcome::right:
+      return "správne";
+    case Worksheet::Outcome::wrong:
+      return "nesprávne, správny výsledok je " + std::to_string(row.example.Výsledok);
+    case Worksheet::Outcome::unjudged:
+      break;
+  }
+  return {};
+}
+
 }  // namespace ratanka::sheets

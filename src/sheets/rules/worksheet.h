@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "sheets/rules/example.h"
@@ -65,5 +66,9 @@ class Worksheet {
   std::optional<int> mark_;
   bool isRewarded_ = false;
 };
+
+// How a row was judged, for the ear: "správne", or "nesprávne, správny výsledok je 5"; empty for a
+// row that isn't judged.
+std::string verdict(const Worksheet::Row& row);
 
 }  // namespace ratanka::sheets

@@ -21,8 +21,8 @@ struct Premenné {
   std::int16_t DelenieKolo = 0;
 
   // Size of the desktop at the start, in pixels.
-  std::optional<int> ŠírkaObrazovky;
-  std::optional<int> VýškaObrazovky;
+  std::optional<int> ŠírkaObrazovky{};
+  std::optional<int> VýškaObrazovky{};
 };
 
 }  // namespace ratanka

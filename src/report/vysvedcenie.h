@@ -1,0 +1,30 @@
+#pragma once
+
+#include <array>
+
+#include "platform/form.h"
+#include "shell/rules/premenne.h"
+
+class QLabel;
+
+namespace ratanka::report {
+
+// The report card: the marks of the seven sheets, read once as it loads. Its OK is the way out of
+// the program.
+class Vysvedčenie : public Form {
+ public:
+  Vysvedčenie(Forms& forms, const Premenné& premenné);
+
+ protected:
+  void build() override;
+  void Form_Load() override;
+
+ private:
+  void ShowVýsledok1();
+  void Command1_Click();
+
+  const Premenné& premenné_;
+  std::array<QLabel*, 7> marks_{};
+};
+
+}  // namespace ratanka::report

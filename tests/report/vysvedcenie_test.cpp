@@ -1,0 +1,83 @@
+#include "report/vysvedcenie.h"
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "form_driver.h"
+#include "shell/names.h"
+#include "shell/uvod.h"
+
+namespace ratanka::report {
+namespace {
+
+class CardTest : public FormTest {
+ protected:
+  CardTest() {
+    forms.setMaker(names::Vysvedčenie,
+                   [this] { return std::make_shared<Vysvedčenie>(forms, premenné); });
+    forms.setMaker(names::Úvod, [this] { return std::make_shared<Úvod>(forms); });
+  }
+
+  // The marks of the card from its first line to its last, as they stand on it.
+  static std::string marks() {
+    std::map<int, std::string> lines;
+    for (const QLabel* const label : window(names::Vysvedčenie)->findChildren<QLabel*>()) {
+      if (label->text().size() == 1) lines[label->y()] += label->text().toStdString();
+    }
+    std::string all;
+    for (const auto& line : lines) all += line.second;
+    return all;
+  }
+
+  Premenné premenné;
+};
+
+TEST_F(CardTest, IsEmptyAtFirst) {
+  forms.show(names::Vysvedčenie);
+  EXPECT_EQ(marks(), "0000000");
+  EXPECT_EQ(control<QLabel>(names::Vysvedčenie, "Label14")->accessibleName(),
+            "Logická rátanka: bez známky");
+}
+
+TEST_F(CardTest, ReadsEachSheetIntoItsLine) {
+  premenné = {.PercentoDelenie = 19.99,
+              .PercentoMalá = 20,
+              .PercentoNásobilka = 60,
+              .PercentoVeľká = 40,
+              .PercentoVeľkéčísla = 100,
+              .PercentoZátvorky = 0.99,
+              .PercentoHádanka = 79};
+  forms.show(names::Úvod);
+  click(control<QPushButton>(names::Úvod, "Command6"));
+  settle();
+  EXPECT_EQ(window(names::Úvod), nullptr);
+  EXPECT_EQ(marks(), "5432102");
+  const std::pair<const char*, const char*> titles[] = {
+      {"Label1", "Delenie  malých čísel"},  {"Label2", "Malé počty"},   {"Label4", "Veľké počty"},
+      {"Label3", "Násobenie malých čísel"}, {"Label5", "Malá rátanka"}, {"Label6", "Veľká rátanka"},
+      {"Label13", "Logická rátanka"}};
+  int above = 0;
+  for (const auto& [name, title] : titles) {
+    const QLabel* const line = control<QLabel>(names::Vysvedčenie, name);
+    EXPECT_EQ(line->text(), title);
+    EXPECT_GT(line->y(), above);
+    above = line->y();
+  }
+  premenné.PercentoDelenie = 100;  // read once
+  EXPECT_EQ(marks(), "5432102");
+}
+
+TEST_F(CardTest, ItsButtonEndsTheProgramFromAnyState) {
+  forms.show(names::Úvod);
+  forms.show(names::Vysvedčenie);
+  dialogs.expect("box", [this] {
+    click(control<QPushButton>(names::Vysvedčenie, "Command1"));
+    EXPECT_TRUE(forms.isEnding());
+  });
+  dialogs.message({.title = "box", .text = ""});
+  EXPECT_FALSE(forms.isLoaded(names::Vysvedčenie));
+  EXPECT_EQ(window(names::Úvod), nullptr);
+}
+
+}  // namespace
+}  // namespace ratanka::report
