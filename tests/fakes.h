@@ -17,7 +17,7 @@
 // Doubles of the services, for tests to steer; each records what it was asked for.
 namespace ratanka {
 
-// Chance that draws the told whole numbers, each from 0 to 99 hundredths; 0 after the last.
+// Chance that gives the told numbers, each from 0 to below 1; 0 after the last.
 class FakeRandom : public Random {
  public:
   double next() override {

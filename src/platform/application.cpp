@@ -1,7 +1,9 @@
 #include "platform/application.h"
 
+#include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QStyleOption>
 #include <QTimer>
 
 #include "platform/controls.h"
@@ -14,10 +16,12 @@ namespace {
 // The first window is painted by then: the program's sign, drawn at many sizes, delays nothing.
 constexpr std::chrono::milliseconds kIconDelay{300};
 
-constexpr Rgb kInk{0x22, 0x30, 0x4a};
+constexpr qreal kCorner = 3;  // of a button, in logical pixels
+
 constexpr Rgb kPaper{0xff, 0xfd, 0xf5};
 constexpr Rgb kCard{0xf3, 0xed, 0xdf};
 constexpr Rgb kSky{0x2f, 0x7f, 0xb4};
+constexpr Rgb kCaption{0x0c, 0x12, 0x20};  // deep enough to read on a pure red
 
 // The toolkit's plain style with the signs of our own hand in its boxes.
 class Style : public QProxyStyle {
@@ -29,6 +33,33 @@ class Style : public QProxyStyle {
     if (sign == SP_MessageBoxInformation) return pictureIcon("box-information");
     if (sign == SP_MessageBoxWarning) return pictureIcon("box-exclamation");
     return QProxyStyle::standardIcon(sign, option, widget);
+  }
+
+  // A button's face in its own flat colour, which the plain style would lighten.
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    if (element != PE_PanelButtonCommand) {
+      QProxyStyle::drawPrimitive(element, option, painter, widget);
+      return;
+    }
+    const bool isDown = (option->state & (State_Sunken | State_On)) != 0;
+    const QColor face = option->palette.button().color();
+    const QRectF edge = QRectF(option->rect).adjusted(1, 1, -1, -1);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(isDown ? face.darker(115) : face);
+    painter->drawRoundedRect(edge, kCorner, kCorner);
+    if (!isDown) {
+      painter->setBrush(face.darker(115));
+      painter->drawRect(QRectF(edge.left() + 1, edge.bottom() - 3, edge.width() - 2, 3));
+    }
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen((option->state & State_HasFocus) != 0
+                        ? QPen(option->palette.highlight().color(), 2)
+                        : QPen(colour(kInkColour), 1));
+    painter->drawRoundedRect(edge, kCorner, kCorner);
+    painter->restore();
   }
 
   int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -44,9 +75,8 @@ QPalette ourPalette() {
   palette.setColor(QPalette::ToolTipBase, colour(kPaper));
   palette.setColor(QPalette::Highlight, colour(kSky));
   palette.setColor(QPalette::HighlightedText, Qt::white);
-  for (const auto role :
-       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText}) {
-    palette.setColor(role, colour(kInk));
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ToolTipText}) {
+    palette.setColor(role, colour(kInkColour));
   }
   return palette;
 }

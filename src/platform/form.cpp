@@ -21,6 +21,8 @@ Form::~Form() {
 
 QWidget& Form::window() const { return *window_; }
 
+bool Form::hasEnded() const { return forms_.isEnding(); }
+
 void Form::load() {
   if (isLoaded()) return;
   const HandlerScope scope(*this);
@@ -31,10 +33,11 @@ void Form::load() {
 }
 
 void Form::unload() {
-  if (!isLoaded()) return;
+  if (!isLoaded() || isUnloading_) return;
   const HandlerScope scope(*this);
+  isUnloading_ = true;
   Form_Unload();
-  if (!isLoaded()) return;
+  isUnloading_ = false;
   connections_.reset();
   FormWindow* const window = std::exchange(window_, nullptr);
   window->leaveForm();
@@ -62,6 +65,7 @@ void Form::giveFocus(QWidget& control) {
 Timer* Form::timer(const QString& name, int milliseconds, std::function<void()> handler) {
   auto* const result = new Timer(window_, forms_.ticks_);
   const auto tick = [this, result, handler = std::move(handler)] {
+    if (hasEnded()) return;
     if (handlersRunning_ > 0) {
       result->postpone();
       return;

@@ -62,6 +62,7 @@ class Form : public std::enable_shared_from_this<Form> {
   template <typename Sender, typename Signal, typename Handler>
   void on(Sender* sender, Signal signal, Handler handler) {
     QObject::connect(sender, signal, connections_.get(), [this, handler](const auto&... arguments) {
+      if (hasEnded()) return;
       const HandlerScope scope(*this);
       if constexpr (std::is_invocable_v<Handler>) {
         handler();
@@ -94,6 +95,7 @@ class Form : public std::enable_shared_from_this<Form> {
     std::shared_ptr<Form> form_;
   };
 
+  bool hasEnded() const;  // the whole program
   void load();
   void unload();
   void bringUp();
@@ -106,6 +108,7 @@ class Form : public std::enable_shared_from_this<Form> {
   std::unique_ptr<QObject> connections_;  // what every handler hangs on; gone, none can start
   std::vector<FormWindow*> leaving_;      // unloaded windows that a running handler may stand on
   int handlersRunning_ = 0;
+  bool isUnloading_ = false;
 };
 
 }  // namespace ratanka

@@ -36,7 +36,9 @@ void Forms::unload(FormName name) {
 }
 
 void Forms::drop(FormName name) {
-  unload(name);
+  const auto form = find(name);  // stays until its last handler has returned
+  if (!form) return;
+  form->unload();
   forms_.erase(name);
 }
 

@@ -6,10 +6,7 @@
 namespace ratanka {
 
 void HeldKeys::boxOpened() {
-  if (openBoxes_++ == 0) {
-    down_.clear();
-    QCoreApplication::instance()->installEventFilter(this);
-  }
+  if (openBoxes_++ == 0) QCoreApplication::instance()->installEventFilter(this);
 }
 
 void HeldKeys::boxClosed() {
@@ -21,19 +18,27 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
   const bool isPress = event->type() == QEvent::KeyPress;
   if ((!isPress && event->type() != QEvent::KeyRelease) || !watched->isWindowType()) return false;
   const auto* const keyEvent = static_cast<QKeyEvent*>(event);
-  if (keyEvent->isAutoRepeat()) return false;
 
   if (openBoxes_ > 0) {
     if (isPress) {
-      down_.insert(keyEvent->key());
-    } else {
+      down_.insert(keyEvent->key());  // a repeat closes a box, too
+    } else if (!keyEvent->isAutoRepeat()) {
       down_.erase(keyEvent->key());
     }
     return false;
   }
-  const bool wasDown = down_.erase(keyEvent->key()) > 0;
+
+  if (keyEvent->isAutoRepeat() || !down_.contains(keyEvent->key())) return false;
+  if (!isPress) {
+    upAt_ = keyEvent->timestamp();
+    return true;
+  }
+  // Where the keyboard changes windows, X11 breaks a repeat into a release and a press of the same
+  // time: the key is still down.
+  if (upAt_ == keyEvent->timestamp()) return false;
+  down_.erase(keyEvent->key());
   if (down_.empty()) QCoreApplication::instance()->removeEventFilter(this);
-  return wasDown && !isPress;
+  return false;
 }
 
 }  // namespace ratanka

@@ -9,7 +9,7 @@ namespace ratanka {
 // released over an answer box, and must not be taken there for an answer.
 //
 // While a box is open it notes which keys go down and up in the program. After the box it
-// swallows the next release of each that is still down, and a fresh press ends the waiting.
+// swallows the release of each that is still down, and a fresh press ends the waiting.
 class HeldKeys : public QObject {
  public:
   void boxOpened();
@@ -21,6 +21,7 @@ class HeldKeys : public QObject {
  private:
   int openBoxes_ = 0;
   std::set<int> down_;  // the toolkit's keys
+  quint64 upAt_ = 0;    // time of the last swallowed release
 };
 
 }  // namespace ratanka

@@ -89,7 +89,7 @@ void ExerciseSheet::ShowOpakuj() {
   pause_->setEnabled(false);
   worksheet_.ShowOpakuj(design_.nextSet != nullptr ? design_.nextSet(services_.premenné.DelenieKolo)
                                                    : design_.ShowStart(services_.random));
-  for (const RowControls& row : rows_) row.box->clear();
+  for (const RowControls& row : rows_) row.box->setText({});  // without a way to undo it
   refresh();
   giveFocus(*controls(1).box);
 }

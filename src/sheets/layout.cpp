@@ -1,7 +1,5 @@
 // Where everything on a sheet stands, from top to bottom.
 
-#include <QPainter>
-
 #include "platform/forms.h"
 #include "platform/timer.h"
 #include "sheets/exercise_sheet.h"

@@ -52,7 +52,7 @@ struct RewardDesign {
   FormName game;
   QString tooltip;
   QString icon;
-  int left = 4800;
+  int left = 4800;  // twips
   int top = 6720;
   Rgb back{224, 224, 224};
 };
@@ -83,7 +83,7 @@ struct SheetDesign {
   Rgb wrongColour{255, 0, 0};
   Place markPlace{1920, 6840, 615, 495};
   const MarkColours* markColours = &kColoursA;
-  int bookWidth = 615;
+  int bookWidth = 615;                  // twips
   std::vector<ShyButton> shyButtons{};  // none or two
 
   bool leavingClosesGame = false;

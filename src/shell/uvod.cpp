@@ -13,78 +13,24 @@ struct Entry {
   const char* caption;
   const char* tooltip;
   Rgb back;
-  int top;
+  int top;  // twips, as labelLeft
   const char* label;
   int labelLeft;
   const char* examples;
   FormName sheet;
 };
 
-const Entry kEntries[] = {
-    {"Command1",
-     "1.....20",
-     " Malé počty ",
-     {255, 255, 192},
-     240,  //
-     "Label2",
-     1440,
-     "1+1 = ?  6 - 2 = ?...",
-     names::Malá},
-    {"Command2",
-     "1.....200",
-     " Veľké počty ",
-     {128, 255, 255},
-     720,  //
-     "Label3",
-     1440,
-     "10+25 = ?   37-15 = ?...",
-     names::Veľká},
-    {"Command3",
-     "A x B",
-     " Násobenie ",
-     {0, 255, 0},
-     1200,  //
-     "Label4",
-     1440,
-     "2 x 4 = ?   6 x 5 = ? ...",
-     names::Násobilka},
-    {"Command4",
-     "A : B",
-     " Delenie ",
-     {255, 0, 255},
-     1680,  //
-     "Label5",
-     1440,
-     "4 : 2 = ?   8 : 4 = ?...",
-     names::Delenie},
-    {"Command5",
-     "1......X",
-     " Malá rátanka ",
-     {255, 255, 255},
-     2160,  //
-     "Label6",
-     1440,
-     "1+1-2+8 - 11 = ?...",
-     names::Veľkéčísla},
-    {"Command8",
-     "1.........X",
-     " Veľká rátanka ",
-     {255, 0, 0},
-     2640,  //
-     "Label7",
-     1320,
-     "(1+25) - (11-2) + 9 = ?...",
-     names::Zátvorky},
-    {"Command9",
-     "1..........?",
-     " Logická rátanka ",
-     {255, 192, 192},
-     3120,  //
-     "Label8",
-     1440,
-     "1 + ? = 5     12 - ? = 2...",
-     names::Hádanka},
+// clang-format off
+constexpr Entry kEntries[] = {
+    {"Command1", "1.....20", " Malé počty ", {255, 255, 192}, 240, "Label2", 1440, "1+1 = ?  6 - 2 = ?...", names::Malá},
+    {"Command2", "1.....200", " Veľké počty ", {128, 255, 255}, 720, "Label3", 1440, "10+25 = ?   37-15 = ?...", names::Veľká},
+    {"Command3", "A x B", " Násobenie ", {0, 255, 0}, 1200, "Label4", 1440, "2 x 4 = ?   6 x 5 = ? ...", names::Násobilka},
+    {"Command4", "A : B", " Delenie ", {255, 0, 255}, 1680, "Label5", 1440, "4 : 2 = ?   8 : 4 = ?...", names::Delenie},
+    {"Command5", "1......X", " Malá rátanka ", {255, 255, 255}, 2160, "Label6", 1440, "1+1-2+8 - 11 = ?...", names::Veľkéčísla},
+    {"Command8", "1.........X", " Veľká rátanka ", {255, 0, 0}, 2640, "Label7", 1320, "(1+25) - (11-2) + 9 = ?...", names::Zátvorky},
+    {"Command9", "1..........?", " Logická rátanka ", {255, 192, 192}, 3120, "Label8", 1440, "1 + ? = 5     12 - ? = 2...", names::Hádanka},
 };
+// clang-format on
 
 constexpr FormName kClosedForTheCard[] = {
     names::Veľká,      names::Násobilka, names::Delenie, names::Malá,    names::Úvod,

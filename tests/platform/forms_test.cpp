@@ -214,16 +214,31 @@ TEST_F(FormsTest, TheProgramEndsWithItsLastWindow) {
   EXPECT_TRUE(forms.isEnding());
 }
 
-TEST_F(FormsTest, AnEndedProgramShowsNothingMore) {
+TEST_F(FormsTest, AnEndedProgramShowsNothingMoreAndStartsNoHandler) {
+  forms.setMaker(FormName("third"), [] {
+    ADD_FAILURE() << "made after the end";
+    return nullptr;
+  });
   forms.show(kFirst);
+  forms.show(kSecond);
   first.click = [this](TestForm&) {
     forms.endProgram();
-    forms.show(kSecond);
+    forms.show(FormName("third"));
+    advance(500);  // a loop in the handler lets time pass
   };
   clickButton(kFirst);
   EXPECT_EQ(window(kFirst), nullptr);
   EXPECT_EQ(window(kSecond), nullptr);
-  EXPECT_TRUE(second.events.empty());
+  EXPECT_EQ(second.events, (Events{"load"}));
+}
+
+TEST_F(FormsTest, AFormMayDropItselfWhileItUnloads) {
+  forms.show(kSecond);
+  forms.show(kFirst);
+  first.unload = [this](TestForm&) { forms.drop(kFirst); };
+  window(kFirst)->close();
+  settle();
+  EXPECT_EQ(first.events, (Events{"load", "unload", "drop"}));
 }
 
 }  // namespace

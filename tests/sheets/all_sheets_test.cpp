@@ -19,6 +19,8 @@ TEST_F(AllSheetsTest, AVisitWithAllRightByReadingTheCaptions) {
   for (const SheetDesign& design : allSheets()) {
     SCOPED_TRACE(design.name.text());
     openSheet(design.name);
+    EXPECT_TRUE(forms.isLoaded(names::Hodiny));
+    EXPECT_TRUE(window(design.name)->isActiveWindow());
     for (int draw = 0; draw < 45; ++draw) random.numbers.push_back((draw * 37 % 100) / 100.0);
     click(button(design.buttons[1].toUtf8()));  // new examples, of mixed numbers
     for (int row = 1; row <= kRows; ++row) {
@@ -38,6 +40,7 @@ TEST_F(AllSheetsTest, AVisitWithAllRightByReadingTheCaptions) {
     EXPECT_NE(window(design.name), nullptr);
     leave();
     EXPECT_FALSE(forms.isLoaded(design.name));
+    EXPECT_FALSE(forms.isLoaded(names::Hodiny));
     EXPECT_NE(window(names::Úvod), nullptr);
     // Only the blocks game ends with its sheet.
     EXPECT_EQ(forms.isLoaded(design.reward.game), design.name != names::Veľkéčísla);

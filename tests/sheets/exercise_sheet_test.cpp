@@ -30,7 +30,14 @@ TEST_F(MaláTest, HasEveryControlOfASheet) {
   for (int number = 1; number <= 18; ++number) {
     EXPECT_NE(sheet->findChild<QWidget*>("Line" + QString::number(number)), nullptr) << number;
   }
-  EXPECT_EQ(box(9)->geometry().topLeft(), QPoint(304, 344));
+  const std::pair<const char*, QPoint> row4[] = {{"Label13", {72, 144}},  {"Label14", {120, 144}},
+                                                 {"Label15", {176, 144}}, {"Line7", {232, 151}},
+                                                 {"Line8", {232, 159}},   {"Text4", {304, 144}},
+                                                 {"Image10", {352, 140}}, {"Image11", {344, 140}},
+                                                 {"Label16", {400, 144}}, {"Image12", {448, 140}}};
+  for (const auto& [name, place] : row4) {
+    EXPECT_EQ(control<QWidget>(sheet_, name)->pos(), place) << name;
+  }
   EXPECT_EQ(label(39)->geometry(), QRect(128, 456, 41, 33));
   EXPECT_EQ(button("Command1")->geometry(), QRect(328, 440, 41, 41));
   EXPECT_EQ(button("Command2")->toolTip(), " Nové príklady ");
@@ -64,6 +71,7 @@ TEST_F(MaláTest, AWrongAnswerGetsACrossAndTheResult) {
 TEST_F(MaláTest, AnEmptyBoxIsToldAndCountsAsWrong) {
   dialogs.expect(kEmpty, [this] {
     EXPECT_FALSE(box(1)->isEnabled());
+    EXPECT_EQ(QApplication::focusWidget(), box(2));
     EXPECT_EQ(caption(38), "0");
   });
   answer("");
@@ -173,6 +181,9 @@ TEST_F(MaláTest, AVisitWithoutARightAnswerKeepsTheEarlierPercentage) {
   dialogs.expect(kEmpty);
   dialogs.expect(kNoneRight);
   answer("");
+  EXPECT_EQ(dialogs.shown.back().text,
+            "Miláčik, doposiaľ si nevypočítal jediný príklad správne. \r\n"
+            "Je to náhoda, však?\r\nSústreď sa - ideme znova...");
   EXPECT_EQ(premenné.PercentoMalá, 60);
   EXPECT_EQ(caption(39), "");
   EXPECT_TRUE(pause()->isEnabled());
@@ -248,8 +259,8 @@ TEST_F(MaláTest, TheWayBackLosesTheVisitButNotThePercentage) {
   openSheet();
   EXPECT_EQ(caption(37), "0");
   EXPECT_EQ(caption(39), "");
-  answerRow(1, false);
-  EXPECT_EQ(caption(38), "1");
+  answerRow(1, true);
+  EXPECT_EQ(caption(37), "1");
 }
 
 TEST_F(MaláTest, LeavingTwiceQuicklyLeavesOnce) {

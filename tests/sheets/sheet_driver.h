@@ -20,23 +20,26 @@ class SheetTest : public FormTest {
  protected:
   explicit SheetTest(FormName sheet) : sheet_(sheet) {
     forms.setMaker(names::Úvod, [this] { return std::make_shared<Úvod>(forms); });
+    makePlain(names::Hodiny);
     for (const SheetDesign& design : allSheets()) {
       forms.setMaker(design.name,
                      [this, design] { return std::make_shared<ExerciseSheet>(services, design); });
-      forms.setMaker(design.reward.game, [this, game = design.reward.game] {
-        return std::make_shared<PlainGame>(forms, game);
-      });
+      makePlain(design.reward.game);
     }
   }
 
-  class PlainGame : public Form {
+  class PlainForm : public Form {
    public:
-    PlainGame(Forms& forms, FormName name)
+    PlainForm(Forms& forms, FormName name)
         : Form(forms, {.name = name, .width = 3000, .height = 3000}) {}
 
    protected:
     void build() override {}
   };
+
+  void makePlain(FormName name) {
+    forms.setMaker(name, [this, name] { return std::make_shared<PlainForm>(forms, name); });
+  }
 
   void openSheet() {
     forms.show(sheet_);
