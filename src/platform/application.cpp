@@ -42,6 +42,9 @@ class Style : public QProxyStyle {
       QProxyStyle::drawPrimitive(element, option, painter, widget);
       return;
     }
+    // The keyboard's ring shows once the keyboard is used to walk about.
+    const bool hasRing =
+        option->state.testFlag(State_HasFocus) && option->state.testFlag(State_KeyboardFocusChange);
     const bool isDown = (option->state & (State_Sunken | State_On)) != 0;
     const QColor face = option->palette.button().color();
     const QRectF edge = QRectF(option->rect).adjusted(1, 1, -1, -1);
@@ -55,9 +58,8 @@ class Style : public QProxyStyle {
       painter->drawRect(QRectF(edge.left() + 1, edge.bottom() - 3, edge.width() - 2, 3));
     }
     painter->setBrush(Qt::NoBrush);
-    painter->setPen((option->state & State_HasFocus) != 0
-                        ? QPen(option->palette.highlight().color(), 2)
-                        : QPen(colour(kInkColour), 1));
+    painter->setPen(hasRing ? QPen(option->palette.highlight().color(), 2)
+                            : QPen(colour(kInkColour), 1));
     painter->drawRoundedRect(edge, kCorner, kCorner);
     painter->restore();
   }
