@@ -7,6 +7,9 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kSettled = 250ms;
+constexpr int kWarmUps = 3 * kSheetButtons;
+// The heap breathes by some percent; a leak of a window a visit would be many times as much.
+constexpr double kMemoryLimit = 1.05;
 
 struct Visit {
   double opening = 0;  // milliseconds
@@ -49,8 +52,10 @@ void measureVisits(Robot& robot, const Programs& programs, int visits) {
   OpenWindow window(robot, programs.ratanka);
   robot.awaitFocus(window.process().id());
   rest(kSettled);
-  // Every sheet once, to have its pictures and fonts.
-  for (int number = 0; number < kSheetButtons; ++number) visit(robot, window, sheetButton(number));
+  // Every sheet some times, to have its pictures and fonts and a heap that has found its size.
+  for (int count = 0; count < kWarmUps; ++count) {
+    visit(robot, window, sheetButton(count % kSheetButtons));
+  }
 
   const double memoryBefore = window.process().ownMemoryKilobytes();
   std::vector<double> opening;
@@ -67,7 +72,7 @@ void measureVisits(Robot& robot, const Programs& programs, int visits) {
   print({"closing a sheet: median", median(closing), "ms"});
   print({"closing a sheet: 99th percentile", percentile(closing, 99), "ms", 30});
   print({"own memory after " + std::to_string(visits) + " visits, ratio",
-         memoryAfter / memoryBefore, "", 1.02});
+         memoryAfter / memoryBefore, "", kMemoryLimit});
   print({"from the card's OK to the end", endMilliseconds(robot, window), "ms", 200});
 }
 
