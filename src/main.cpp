@@ -1,8 +1,11 @@
+#include "clock/hodiny.h"
 #include "platform/application.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
+#include "platform/ini_settings_store.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_ticks.h"
+#include "platform/system_clock.h"
 #include "platform/twister_random.h"
 #include "report/vysvedcenie.h"
 #include "sheets/exercise_sheet.h"
@@ -19,6 +22,8 @@ int main(int, char** arguments) {
   Forms forms(ticks);
   QtDialogs dialogs(forms);
   const PrimaryScreen desktop;
+  const SystemClock time;
+  IniSettingsStore settings(IniSettingsStore::usersFolder());
   TwisterRandom random;
   Premenné premenné;
   const sheets::SheetServices services{forms, dialogs, random, premenné};
@@ -28,6 +33,8 @@ int main(int, char** arguments) {
   forms.setMaker(names::Úvod, [&] { return std::make_shared<Úvod>(forms); });
   forms.setMaker(names::Vysvedčenie,
                  [&] { return std::make_shared<report::Vysvedčenie>(forms, premenné); });
+  forms.setMaker(names::Hodiny,
+                 [&] { return std::make_shared<clock::Hodiny>(forms, dialogs, time, settings); });
   for (const sheets::SheetDesign& design : sheets::allSheets()) {
     forms.setMaker(design.name, [&services, design] {
       return std::make_shared<sheets::ExerciseSheet>(services, design);

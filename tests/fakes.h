@@ -9,9 +9,11 @@
 #include <string>
 #include <vector>
 
+#include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
 #include "platform/random.h"
+#include "platform/settings_store.h"
 #include "platform/ticks.h"
 
 // Doubles of the services, for tests to steer; each records what it was asked for.
@@ -126,6 +128,37 @@ class FakeDialogs : public Dialogs {
   };
 
   std::deque<Expected> expected_;
+};
+
+class FakeClock : public Clock {
+ public:
+  TimeOfDay timeOfDay() const override { return now; }
+  double secondsSinceMidnight() const override {
+    return (now.hour * 60 + now.minute) * 60 + now.second;
+  }
+  TimeOfDay now;
+};
+
+// Settings in memory, each by its "application/section/key".
+class FakeSettings : public SettingsStore {
+ public:
+  std::string read(std::string_view application, std::string_view section, std::string_view key,
+                   std::string_view fallback) const override {
+    const auto found = values.find(path(application, section, key));
+    return found == values.end() ? std::string(fallback) : found->second;
+  }
+  void write(std::string_view application, std::string_view section, std::string_view key,
+             std::string_view value) override {
+    values[path(application, section, key)] = value;
+  }
+
+  std::map<std::string, std::string> values;
+
+ private:
+  static std::string path(std::string_view application, std::string_view section,
+                          std::string_view key) {
+    return std::string(application).append("/").append(section).append("/").append(key);
+  }
 };
 
 class FakeDesktop : public Desktop {

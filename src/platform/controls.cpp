@@ -170,6 +170,28 @@ PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place
   return box;
 }
 
+Canvas::Canvas(QWidget* parent, std::function<void(QPainter&)> paint)
+    : QWidget(parent), paint_(std::move(paint)) {}
+
+void Canvas::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  paint_(painter);
+}
+
+// Keeps the press from the form beneath: the release of the same button is wanted here.
+void Canvas::mousePressEvent(QMouseEvent*) {}
+
+void Canvas::mouseReleaseEvent(QMouseEvent* event) {
+  if (rect().contains(event->position().toPoint())) emit clicked();
+}
+
+Canvas* addCanvas(QWidget& form, const CanvasDesign& design) {
+  auto* const canvas = new Canvas(&form, design.paint);
+  setUp(*canvas, design.name, design.place);
+  canvas->setAccessibleName(design.accessibleName);
+  return canvas;
+}
+
 void Button::keyPressEvent(QKeyEvent* event) {
   QKeyEvent asSpace = withEnterAsSpace(*event);
   QPushButton::keyPressEvent(&asSpace);

@@ -101,6 +101,33 @@ class PictureBox : public QWidget {
 };
 PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place);
 
+// An area that the form paints whole; feels clicks of any mouse button.
+class Canvas : public QWidget {
+  Q_OBJECT
+
+ public:
+  Canvas(QWidget* parent, std::function<void(QPainter&)> paint);
+
+ signals:
+  void clicked();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  std::function<void(QPainter&)> paint_;
+};
+
+struct CanvasDesign {
+  QString name;
+  Place place;
+  std::function<void(QPainter&)> paint;
+  QString accessibleName{};
+};
+Canvas* addCanvas(QWidget& form, const CanvasDesign& design);
+
 // Pressed by the mouse, the space bar and both Enter keys, at the release.
 class Button : public QPushButton {
   Q_OBJECT

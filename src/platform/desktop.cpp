@@ -1,11 +1,33 @@
 #include "platform/desktop.h"
 
+#include <xcb/xcb.h>
+
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWidget>
 #include <cmath>
+#include <cstdlib>
+#include <memory>
+#include <string_view>
 
 namespace ratanka {
+namespace {
+
+// On X11 a compositor says that it is there by owning a selection.
+bool hasCompositor(xcb_connection_t* connection) {
+  constexpr std::string_view kSelection = "_NET_WM_CM_S0";
+  const auto ask = xcb_intern_atom(connection, 0, kSelection.size(), kSelection.data());
+  const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> atom(
+      xcb_intern_atom_reply(connection, ask, nullptr), &std::free);
+  if (!atom) return false;
+  const std::unique_ptr<xcb_get_selection_owner_reply_t, decltype(&std::free)> owner(
+      xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, atom->atom),
+                                    nullptr),
+      &std::free);
+  return owner && owner->owner != XCB_NONE;
+}
+
+}  // namespace
 
 int modeLength(int logicalPixels, double magnification) {
   const double length = logicalPixels * magnification;
@@ -19,6 +41,13 @@ PixelSize PrimaryScreen::size() const {
   const double magnification = screen->devicePixelRatio();
   return {modeLength(screen->geometry().width(), magnification),
           modeLength(screen->geometry().height(), magnification)};
+}
+
+bool canDrawTranslucentWindows() {
+  // Every other window system that we run on does.
+  if (QGuiApplication::platformName() != "xcb") return true;
+  const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
+  return x11 != nullptr && hasCompositor(x11->connection());
 }
 
 void centreOnScreen(QWidget& window) {

@@ -24,6 +24,9 @@ class PrimaryScreen : public Desktop {
 // the rounding exactly for magnifications up to 2.
 int modeLength(int logicalPixels, double magnification);
 
+// Whether the desktop blends windows with what lies behind them.
+bool canDrawTranslucentWindows();
+
 // Puts a window in the middle of the primary screen: left is (screen width - window width) \ 2 and
 // top likewise, in whole twips.
 void centreOnScreen(QWidget& window);

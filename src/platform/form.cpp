@@ -21,6 +21,12 @@ Form::~Form() {
 
 QWidget& Form::window() const { return *window_; }
 
+void Form::cutTo(const std::vector<ScreenPoint>& outline) {
+  QPolygon polygon;
+  for (const ScreenPoint& point : outline) polygon << QPoint(point.x, point.y);
+  window_->cutTo(polygon);
+}
+
 bool Form::hasEnded() const { return forms_.isEnding(); }
 
 void Form::load() {
@@ -49,7 +55,7 @@ void Form::unload() {
 void Form::bringUp() {
   window_->show();
   window_->raise();
-  window_->activateWindow();
+  if (design_.takesKeyboard) window_->activateWindow();
 }
 
 void Form::giveFocus(QWidget& control) {
@@ -66,12 +72,15 @@ Timer* Form::timer(const QString& name, int milliseconds, std::function<void()> 
   auto* const result = new Timer(window_, forms_.ticks_);
   const auto tick = [this, result, handler = std::move(handler)] {
     if (hasEnded()) return;
-    if (handlersRunning_ > 0) {
+    const bool isBadMoment = handlersRunning_ > 0 && !result->isImpatient();
+    if (isBadMoment || result->isTicking()) {
       result->postpone();
       return;
     }
     const HandlerScope scope(*this);
+    result->setTicking(true);
     handler();
+    result->setTicking(false);
   };
   QObject::connect(result, &Timer::ticked, connections_.get(), tick);
   result->setObjectName(name);

@@ -28,6 +28,7 @@ struct FormDesign {
   Rgb back{255, 255, 255};
   QString picture{};        // drawn in the upper left corner; none where empty
   PixelSize pictureSize{};  // in logical pixels
+  bool takesKeyboard = true;
 };
 
 // One form of the program: its variables live in the object, its controls in a window that comes
@@ -75,6 +76,10 @@ class Form : public std::enable_shared_from_this<Form> {
   // A timer of this form, off at first. Its tick is an event between other events: one that comes
   // while a handler of this form runs, or stands at a box, waits for the handler's end.
   Timer* timer(const QString& name, int milliseconds, std::function<void()> handler);
+
+  // Cuts the window to an outline in logical pixels, filled by the even-odd rule, and lets it be
+  // dragged by its background with any mouse button. Only while the form loads.
+  void cutTo(const std::vector<ScreenPoint>& outline);
 
   // Gives the keyboard to a control, and brings its window in front where another window of the
   // program has it.

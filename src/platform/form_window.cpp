@@ -1,24 +1,72 @@
 #include "platform/form_window.h"
 
 #include <QCloseEvent>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QPainterPath>
+#include <QWindow>
 
 #include "platform/controls.h"
+#include "platform/desktop.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
 
 namespace ratanka {
+namespace {
+
+// The outline's own region and every pixel that touches it: those of a smooth edge.
+QRegion grown(const QRegion& region) {
+  QRegion result;
+  for (const int x : {-1, 0, 1}) {
+    for (const int y : {-1, 0, 1}) result |= region.translated(x, y);
+  }
+  return result;
+}
+
+// The window system's move follows the left button alone on X11.
+bool movesByItself(QWindow& window, Qt::MouseButton button) {
+  const bool isX11 = QGuiApplication::platformName() == "xcb";
+  return (button == Qt::LeftButton || !isX11) && window.startSystemMove();
+}
+
+}  // namespace
 
 FormWindow::FormWindow(Form& form, const FormDesign& design) : form_(&form), design_(design) {
   setObjectName(text(design.name.text()));
   setWindowTitle(design.caption);
-  setWindowFlags(design.hasBorder ? Qt::Window : Qt::Window | Qt::FramelessWindowHint);
+  Qt::WindowFlags flags = Qt::Window;
+  if (!design.hasBorder) flags |= Qt::FramelessWindowHint;
+  if (!design.takesKeyboard) flags |= Qt::WindowDoesNotAcceptFocus;
+  setWindowFlags(flags);
+  setAttribute(Qt::WA_ShowWithoutActivating, !design.takesKeyboard);
   setFixedSize(pixels(design.width), pixels(design.height));
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
+void FormWindow::cutTo(const QPolygon& outline) {
+  outline_ = outline;
+  const QRegion region(outline, Qt::OddEvenFill);
+  const bool isSmooth = canDrawTranslucentWindows();
+  if (isSmooth) setAttribute(Qt::WA_TranslucentBackground);
+  setAttribute(Qt::WA_OpaquePaintEvent, !isSmooth);
+  setMask(isSmooth ? grown(region) : region);
+}
+
 void FormWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
+  paintBackground(painter);
+  if (outline_.isEmpty() || !testAttribute(Qt::WA_TranslucentBackground)) return;
+  QPainterPath outside;
+  outside.addRect(rect());
+  QPainterPath inside;
+  inside.addPolygon(outline_);
+  inside.closeSubpath();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+  painter.fillPath(outside - inside, Qt::black);
+}
+
+void FormWindow::paintBackground(QPainter& painter) const {
   const QSize size(design_.pictureSize.width, design_.pictureSize.height);
   if (size.width() < width() || size.height() < height()) {
     painter.fillRect(rect(), colour(design_.back));
@@ -34,6 +82,28 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   if (form_ == nullptr) return;
   const Form::HandlerScope scope(*form_);
   form_->unload();
+}
+
+void FormWindow::mousePressEvent(QMouseEvent* event) {
+  // A press that a label or an image doesn't want comes here too.
+  const bool isOnBackground = childAt(event->position().toPoint()) == nullptr;
+  if (!outline_.isEmpty() && isOnBackground) grip_ = {event->button(), event->position().toPoint()};
+}
+
+void FormWindow::mouseMoveEvent(QMouseEvent* event) {
+  if (!grip_) return;
+  move(event->globalPosition().toPoint() - grip_->at);
+  // The window system goes on from here. Not at the press already: a window manager that hears of
+  // it after the release would let the window hang on the pointer.
+  if (!grip_->isOurs && movesByItself(*windowHandle(), grip_->button)) {
+    grip_.reset();
+  } else {
+    grip_->isOurs = true;
+  }
+}
+
+void FormWindow::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->buttons() == Qt::NoButton) grip_.reset();
 }
 
 }  // namespace ratanka

@@ -23,6 +23,13 @@ class Timer : public QObject {
   bool isEnabled() const { return enabled_; }
   void setEnabled(bool enabled);
 
+  // An impatient timer ticks even while its form stands at a box.
+  bool isImpatient() const { return isImpatient_; }
+  void setImpatient() { isImpatient_ = true; }
+  // While its own tick is handled.
+  bool isTicking() const { return isTicking_; }
+  void setTicking(bool ticking) { isTicking_ = ticking; }
+
   // A tick that came at a bad moment comes again once after `deliver`, as an event of its own,
   // unless the timer is turned off or restarted before.
   void postpone() { isPostponed_ = true; }
@@ -39,6 +46,8 @@ class Timer : public QObject {
   int interval_ = 0;
   bool enabled_ = false;
   bool isPostponed_ = false;
+  bool isImpatient_ = false;
+  bool isTicking_ = false;
 };
 
 }  // namespace ratanka

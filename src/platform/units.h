@@ -23,6 +23,13 @@ struct Place {
   int height = 0;
 };
 
+// A point on the screen or in a window, in logical pixels.
+struct ScreenPoint {
+  int x = 0;
+  int y = 0;
+  friend constexpr bool operator==(const ScreenPoint&, const ScreenPoint&) = default;
+};
+
 struct PixelSize {
   int width = 0;
   int height = 0;

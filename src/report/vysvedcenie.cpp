@@ -5,6 +5,7 @@
 #include "platform/forms.h"
 #include "shell/names.h"
 #include "shell/rules/mark.h"
+#include "shell/rules/shape.h"
 
 namespace ratanka::report {
 namespace {
@@ -25,6 +26,8 @@ constexpr std::array<Line, 7> kLines{{
     {"Label6", "Veľká rátanka", "Label12", &Premenné::PercentoZátvorky},
     {"Label13", "Logická rátanka", "Label14", &Premenné::PercentoHádanka},
 }};
+
+constexpr Point kOutline[] = {{6, 3}, {357, 3}, {357, 458}, {6, 458}, {6, 3}};
 
 constexpr int kFirstTop = 1575;
 constexpr int kPitch = 600;
@@ -80,6 +83,7 @@ void Vysvedčenie::build() {
 
 void Vysvedčenie::Form_Load() {
   centreOnScreen(window());
+  cutTo(GetFormRegion(kOutline));
   ShowVýsledok1();
 }
 

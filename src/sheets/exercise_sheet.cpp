@@ -9,9 +9,19 @@
 #include "platform/text.h"
 #include "platform/timer.h"
 #include "shell/names.h"
+#include "shell/rules/shape.h"
 
 namespace ratanka::sheets {
 namespace {
+
+// The edge of the drawn book, its corners cut away.
+constexpr Point kOutline[] = {
+    {10, 6},    {26, 5},    {30, 7},    {250, 7},   {251, 8},   {253, 5},   {258, 10},
+    {262, 10},  {262, 11},  {283, 11},  {287, 9},   {288, 6},   {291, 6},   {291, 8},
+    {512, 8},   {514, 7},   {531, 7},   {531, 25},  {529, 26},  {528, 422}, {530, 423},
+    {531, 438}, {529, 440}, {519, 441}, {516, 439}, {516, 498}, {27, 498},  {27, 443},
+    {15, 443},  {11, 441},  {9, 439},   {8, 424},   {10, 422},  {11, 6},    {26, 6},
+};
 
 const MessageBox kEmptyBox{
     .title = "Chyba - nebolo zadané číslo",
@@ -46,6 +56,7 @@ ExerciseSheet::ExerciseSheet(const SheetServices& services, SheetDesign design)
 void ExerciseSheet::Form_Load() {
   centreOnScreen(window());
   kniha_ = AnimatedCursor::load(dataFile("kniha.ANI"));
+  cutTo(GetFormRegion(kOutline));
   worksheet_.beginVisit(design_.ShowStart(services_.random));
   refresh();
   controls(1).box->setFocus();

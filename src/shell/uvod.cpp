@@ -4,6 +4,7 @@
 #include "platform/desktop.h"
 #include "platform/forms.h"
 #include "shell/names.h"
+#include "shell/rules/shape.h"
 
 namespace ratanka {
 namespace {
@@ -36,6 +37,8 @@ constexpr FormName kClosedForTheCard[] = {
     names::Veľká,      names::Násobilka, names::Delenie, names::Malá,    names::Úvod,
     names::Veľkéčísla, names::Zátvorky,  names::Hodiny,  names::Hádanka,
 };
+
+constexpr Point kOutline[] = {{0, 0}, {241, 0}, {241, 276}, {2, 275}, {1, 276}, {0, 0}};
 
 constexpr int kPageRight = 3615;  // where the page's right edge ends, for the labels
 
@@ -73,7 +76,10 @@ void Úvod::build() {
   on(card, &QPushButton::clicked, [this] { Command6_Click(); });
 }
 
-void Úvod::Form_Load() { centreOnScreen(window()); }
+void Úvod::Form_Load() {
+  centreOnScreen(window());
+  cutTo(GetFormRegion(kOutline));
+}
 
 void Úvod::handOverTo(FormName sheet) {
   if (!forms().hasMaker(sheet)) return;

@@ -7,13 +7,16 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <memory>
 #include <thread>
 
 // After everything else: its macros leave no name alone.
 #include <X11/Xlib.h>
 #include <X11/Xutil.h>
+#include <X11/extensions/shape.h>
 
 namespace ratanka {
 namespace {
@@ -153,6 +156,80 @@ Rgb PrivateDesktop::pixel(int x, int y) const {
   XDestroyImage(image);
   const auto part = [value](int shift) { return static_cast<int>((value >> shift) & 0xff); };
   return {part(16), part(8), part(0)};
+}
+
+unsigned long PrivateDesktop::find(const std::string& title) const {
+  const std::string command = "DISPLAY=" + displayName_ +
+                              " xdotool search --onlyvisible --name '^" + title +
+                              "$' 2>/dev/null | tail -n 1";
+  const std::unique_ptr<FILE, decltype(&pclose)> answer(popen(command.c_str(), "r"), &pclose);
+  unsigned long window = 0;
+  if (!answer || std::fscanf(answer.get(), "%lu", &window) != 1) {  // NOLINT(cert-err34-c)
+    ADD_FAILURE() << "no window " << title;
+  }
+  return window;
+}
+
+ScreenPoint PrivateDesktop::place(const std::string& title) const {
+  ScreenPoint corner;
+  Window child = 0;
+  XTranslateCoordinates(display_, find(title), DefaultRootWindow(display_), 0, 0, &corner.x,
+                        &corner.y, &child);
+  return corner;
+}
+
+std::vector<std::string> PrivateDesktop::shape(const std::string& title, PixelSize size) const {
+  std::vector<std::string> rows(static_cast<std::size_t>(size.height),
+                                std::string(static_cast<std::size_t>(size.width), '.'));
+  int count = 0;
+  int ordering = 0;
+  XRectangle* const rectangles =
+      XShapeGetRectangles(display_, find(title), ShapeBounding, &count, &ordering);
+  for (int i = 0; i < count; ++i) {
+    const XRectangle& part = rectangles[i];
+    for (int y = part.y; y < part.y + part.height; ++y) {
+      for (int x = part.x; x < part.x + part.width; ++x) {
+        rows.at(static_cast<std::size_t>(y)).at(static_cast<std::size_t>(x)) = '#';
+      }
+    }
+  }
+  if (rectangles != nullptr) XFree(rectangles);
+  return rows;
+}
+
+void PrivateDesktop::drag(int button, ScreenPoint from, ScreenPoint to) const {
+  const auto moveTo = [this](int x, int y) {
+    xdotool("mousemove " + std::to_string(x) + ' ' + std::to_string(y));
+    std::this_thread::sleep_for(milliseconds(30));
+  };
+  moveTo(from.x, from.y);
+  xdotool("mousedown " + std::to_string(button));
+  moveTo(from.x + 1, from.y);  // a hand begins with a small step
+  for (int step = 1; step <= 4; ++step) {
+    moveTo(from.x + (to.x - from.x) * step / 4, from.y + (to.y - from.y) * step / 4);
+  }
+  xdotool("mouseup " + std::to_string(button));
+  std::this_thread::sleep_for(milliseconds(100));
+}
+
+void PrivateDesktop::spreadCloth() {
+  XSetWindowAttributes attributes{};
+  attributes.override_redirect = True;
+  attributes.event_mask = ButtonPressMask;
+  const Window cloth =
+      XCreateWindow(display_, DefaultRootWindow(display_), 0, 0, 4000, 4000, 0, CopyFromParent,
+                    InputOutput, CopyFromParent, CWOverrideRedirect | CWEventMask, &attributes);
+  XMapWindow(display_, cloth);
+  XLowerWindow(display_, cloth);
+  XSync(display_, False);
+}
+
+bool PrivateDesktop::clothWasPressed() {
+  XSync(display_, False);
+  XEvent event;
+  bool pressed = false;
+  while (XCheckTypedEvent(display_, ButtonPress, &event) == True) pressed = true;
+  return pressed;
 }
 
 std::string PrivateDesktop::darkness(int x, int y, PixelSize size) const {

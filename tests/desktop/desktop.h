@@ -36,6 +36,19 @@ class PrivateDesktop {
   bool waitForActive(const std::string& title) const;
   bool waitUntilGone(const std::string& title) const;
 
+  // Upper left corner of a visible window on the screen.
+  ScreenPoint place(const std::string& title) const;
+  // What the server shows of a window: '#' for a pixel inside its shape, '.' for one outside, a
+  // text for each row of its rectangle.
+  std::vector<std::string> shape(const std::string& title, PixelSize size) const;
+
+  // Presses one of the mouse's buttons (1 left, 2 middle, 3 right), moves in steps, lets go.
+  void drag(int button, ScreenPoint from, ScreenPoint to) const;
+
+  // A window of ours behind everything, and whether it has felt a press since it was last asked.
+  void spreadCloth();
+  bool clothWasPressed();
+
   Rgb pixel(int x, int y) const;
   // Where something dark stands in an area: '#' for dark, '.' for the rest, a line a row.
   std::string darkness(int x, int y, PixelSize size) const;
@@ -43,6 +56,8 @@ class PrivateDesktop {
 
  private:
   std::string displayName_;
+  unsigned long find(const std::string& title) const;
+
   _XDisplay* display_ = nullptr;
   pid_t server_ = 0;
   pid_t windowManager_ = 0;

@@ -1,0 +1,163 @@
+#include "clock/hodiny.h"
+
+#include <QLabel>
+
+#include "clock/rules/outline.h"
+#include "form_driver.h"
+#include "platform/controls.h"
+#include "platform/pictures.h"
+#include "shell/names.h"
+
+namespace ratanka::clock {
+namespace {
+
+constexpr auto kQuestion = "Hodiny";
+
+// Counts how often a widget is painted.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+};
+
+class HodinyTest : public FormTest {
+ protected:
+  HodinyTest() {
+    forms.setMaker(names::Hodiny,
+                   [this] { return std::make_shared<Hodiny>(forms, dialogs, time, settings); });
+    forms.setMaker(names::Malá, [this] { return std::make_shared<Sheet>(forms); });
+    forms.show(names::Malá);
+    forms.show(names::Hodiny);
+    settle();
+  }
+
+  class Sheet : public Form {
+   public:
+    explicit Sheet(Forms& forms)
+        : Form(forms, {.name = names::Malá, .width = 3000, .height = 3000}) {}
+
+   protected:
+    void build() override {}
+  };
+
+  static Canvas* face() { return control<Canvas>(names::Hodiny, "picBackGround"); }
+  static std::string counters() {
+    std::string all;
+    for (const char* name : {"Label1", "Label2", "Label3"}) {
+      all += control<QLabel>(names::Hodiny, name)->text().toStdString() + ' ';
+    }
+    return all;
+  }
+
+  // The colour on the face, that many units from its middle.
+  static QColor seen(double x, double y) {
+    return face()->grab().toImage().pixelColor(qRound(119.5 + 59.75 * x), qRound(95 + 47.5 * y));
+  }
+
+  FakeClock time;
+  FakeSettings settings;
+};
+
+TEST_F(HodinyTest, NeverTakesTheKeyboard) {
+  EXPECT_TRUE(window(names::Hodiny)->windowFlags().testFlag(Qt::WindowDoesNotAcceptFocus));
+  EXPECT_EQ(window(names::Hodiny)->size(), QSize(239, 190));
+}
+
+TEST_F(HodinyTest, CountsHowLongItHasBeenOpen) {
+  EXPECT_EQ(counters(), "0 0 0 ");
+  advance(59'000);
+  EXPECT_EQ(counters(), "0 0 59 ");
+  advance(2'000);
+  EXPECT_EQ(counters(), "0 1 1 ");
+  forms.unload(names::Hodiny);
+  forms.show(names::Hodiny);
+  EXPECT_EQ(counters(), "0 0 0 ");
+}
+
+TEST_F(HodinyTest, AsksBeforeItHidesAndCountsOnMeanwhile) {
+  dialogs.expect(
+      kQuestion, [this] { advance(5'000); }, Dialogs::Answer::no);
+  click(face());
+  settle();
+  EXPECT_EQ(dialogs.shown.back().text, "Schovať hodiny?");
+  EXPECT_EQ(counters(), "0 0 5 ");
+  dialogs.expect(kQuestion, {}, Dialogs::Answer::yes);
+  QTest::mouseClick(face(), Qt::RightButton);
+  settle();
+  EXPECT_FALSE(forms.isLoaded(names::Hodiny));
+  EXPECT_EQ(ticks.running(), 0U);
+  forms.unload(names::Hodiny);  // by the sheet that is left
+}
+
+TEST_F(HodinyTest, ShowsTheHandsWhereTheTimeSays) {
+  forms.unload(names::Hodiny);
+  settings.values["Ciferka/Hands/mlHcolor"] = " 12";
+  settings.values["Ciferka/Hands/mlMcolor"] = " 9";
+  settings.values["Ciferka/Hands/mlScolor"] = " 10";
+  forms.show(names::Hodiny);
+  time.now = {9, 0, 15};
+  advance(100);
+  EXPECT_EQ(seen(-0.25, 0), QColor(255, 0, 0));  // the hour to the left, half as long
+  EXPECT_NE(seen(-0.6, 0), QColor(255, 0, 0));
+  EXPECT_EQ(seen(0, -0.6), QColor(0, 0, 255));  // the minute up
+  EXPECT_EQ(seen(0.9, 0), QColor(0, 255, 0));   // the second to the right
+  EXPECT_EQ(seen(0, 0), QColor(0, 255, 0));     // on top of all
+}
+
+TEST_F(HodinyTest, DrawsOnlyWhenTheSecondHasChanged) {
+  time.now = {10, 0, 0};  // counts as drawn already
+  Paints paints(*face());
+  advance(500);
+  EXPECT_EQ(paints.count, 0);
+  time.now = {10, 0, 1};
+  advance(100);
+  EXPECT_EQ(paints.count, 1);
+  advance(800);
+  EXPECT_EQ(paints.count, 1);
+}
+
+TEST_F(HodinyTest, PassesItsStoredColoursOnUnchanged) {
+  forms.unload(names::Hodiny);
+  EXPECT_EQ(settings.values["Ciferka/Hands/mlHcolor"], " 0");
+  EXPECT_EQ(settings.values["Ciferka/Hands/mlScolor"], " 0");
+  settings.values["Ciferka/Hands/mlHcolor"] = "4711";
+  settings.values["Ciferka/Hands/mlMcolor"] = "nonsense";
+  settings.values["Ciferka/Hands/mlScolor"] = "-7";
+  forms.show(names::Hodiny);
+  time.now = {9, 0, 15};
+  advance(100);
+  EXPECT_EQ(seen(-0.25, 0), QColor(Qt::black));
+  forms.unload(names::Hodiny);
+  EXPECT_EQ(settings.values["Ciferka/Hands/mlHcolor"], " 4711");
+  EXPECT_EQ(settings.values["Ciferka/Hands/mlMcolor"], " 0");
+  EXPECT_EQ(settings.values["Ciferka/Hands/mlScolor"], "-7");
+}
+
+TEST(ClockPicture, FillsItsOutline) {
+  QPolygon polygon;
+  for (const Point& point : kOutline) polygon << QPoint(point.x, point.y);
+  const QRegion region(polygon, Qt::OddEvenFill);
+  const QImage figure = picture("clock", {239, 190}, 1).toImage();
+  int cut = 0;
+  int empty = 0;
+  for (int y = 0; y < figure.height(); ++y) {
+    for (int x = 0; x < figure.width(); ++x) {
+      const bool isInside = region.contains(QPoint(x, y));
+      const int alpha = qAlpha(figure.pixel(x, y));
+      cut += alpha == 255 && !isInside ? 1 : 0;
+      empty += alpha == 0 && isInside ? 1 : 0;
+    }
+  }
+  // A whole pixel in a hundred of the edge's may fall to the wrong side.
+  EXPECT_LE(cut, 10);
+  EXPECT_LE(empty, 10);
+}
+
+}  // namespace
+}  // namespace ratanka::clock
