@@ -8,13 +8,16 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <algorithm>
 #include <array>
 
+#include "clock/hodiny.h"
 #include "platform/application.h"
 #include "platform/controls.h"
 #include "platform/forms.h"
+#include "platform/ini_settings_store.h"
 #include "platform/pictures.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_ticks.h"
@@ -28,6 +31,14 @@
 
 namespace ratanka {
 namespace {
+
+// A clock that somebody has set.
+class StandingClock : public Clock {
+ public:
+  TimeOfDay timeOfDay() const override { return now; }
+  double secondsSinceMidnight() const override { return 0; }
+  TimeOfDay now;
+};
 
 constexpr int kPatience = 400;  // milliseconds, for the book to have turned to a page
 
@@ -43,6 +54,7 @@ class Gallery {
     int mistakes = 0;
     for (const sheets::SheetDesign& design : sheets::allSheets()) showSheet(design, ++mistakes);
     showCard();
+    showClock();
     forms_.endProgram();
   }
 
@@ -78,6 +90,18 @@ class Gallery {
     for (const int row : {5, 4, 6, 7, 8, 9}) answerRow(row);
     take(name, "done");
     forms_.unload(name);
+  }
+
+  void showClock() {
+    forms_.setMaker(names::Hodiny, [this] {
+      return std::make_shared<clock::Hodiny>(forms_, dialogs_, time_, settings_);
+    });
+    for (const TimeOfDay& time : {TimeOfDay{10, 8, 36}, TimeOfDay{18, 30, 15}}) {
+      time_.now = time;
+      forms_.show(names::Hodiny);
+      take(names::Hodiny, QString::number(time.hour));
+      forms_.unload(names::Hodiny);
+    }
   }
 
   void showCard() {
@@ -123,6 +147,9 @@ class Gallery {
   QtTicks ticks_;
   Forms forms_{ticks_};
   QtDialogs dialogs_{forms_};
+  StandingClock time_;
+  const QTemporaryDir home_;
+  IniSettingsStore settings_{home_.path()};
   TwisterRandom random_;
   Premenné premenné_;
   sheets::SheetServices services_{forms_, dialogs_, random_, premenné_};
