@@ -26,8 +26,8 @@ void measureRest(Robot& robot, const Programs& programs, int seconds) {
 
   openSheet(robot, window);
   const Process::Usage sheet = usageASecond(window.process(), seconds);
-  print({"at rest, sheet with its book: wake-ups a second", sheet.wakeUps, ""});
-  print({"at rest, sheet with its book: of one core", sheet.cpuSeconds * 100, "%", 0.5});
+  print({"at rest, sheet, book and clock: wake-ups a second", sheet.wakeUps, "", 30});
+  print({"at rest, sheet, book and clock: of one core", sheet.cpuSeconds * 100, "%", 1});
 }
 
 }  // namespace ratanka::bench
