@@ -1,5 +1,8 @@
 #include "clock/hodiny.h"
+#include "maze/bludisko.h"
+#include "piskorky/piskorky.h"
 #include "platform/application.h"
+#include "platform/data_files.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
 #include "platform/ini_settings_store.h"
@@ -35,6 +38,12 @@ int main(int, char** arguments) {
                  [&] { return std::make_shared<report::Vysvedčenie>(forms, premenné); });
   forms.setMaker(names::Hodiny,
                  [&] { return std::make_shared<clock::Hodiny>(forms, dialogs, time, settings); });
+  forms.setMaker(names::Bludisko, [&] {
+    return std::make_shared<maze::Bludisko>(forms, dialogs, time,
+                                            dataFile("bludisko.txt").toStdString());
+  });
+  forms.setMaker(names::Piškôrky,
+                 [&] { return std::make_shared<piskorky::Piškôrky>(forms, dialogs, random); });
   for (const sheets::SheetDesign& design : sheets::allSheets()) {
     forms.setMaker(design.name, [&services, design] {
       return std::make_shared<sheets::ExerciseSheet>(services, design);

@@ -30,11 +30,14 @@ class FakeRandom : public Random {
     return result;
   }
 
+  void reseedFromClock() override { ++reseeded; }
+
   // The next draw that is asked for as one of n numbers gives `number`.
   void draw(int number, int n) { numbers.push_back((number + 0.5) / n); }
 
   std::deque<double> numbers;
   int drawn = 0;
+  int reseeded = 0;
 };
 
 // Time that stands still until it is moved on.

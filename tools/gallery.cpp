@@ -14,8 +14,11 @@
 #include <array>
 
 #include "clock/hodiny.h"
+#include "maze/bludisko.h"
+#include "piskorky/piskorky.h"
 #include "platform/application.h"
 #include "platform/controls.h"
+#include "platform/data_files.h"
 #include "platform/forms.h"
 #include "platform/ini_settings_store.h"
 #include "platform/pictures.h"
@@ -40,6 +43,18 @@ class StandingClock : public Clock {
   TimeOfDay now;
 };
 
+// Chance that picks the told cells of nine.
+class ToldReplies : public Random {
+ public:
+  double next() override {
+    const int cell = cells.empty() ? 0 : cells.front();
+    if (!cells.empty()) cells.erase(cells.begin());
+    return (cell + 0.5) / 9;
+  }
+  void reseedFromClock() override {}
+  std::vector<int> cells;
+};
+
 constexpr int kPatience = 400;  // milliseconds, for the book to have turned to a page
 
 class Gallery {
@@ -55,6 +70,8 @@ class Gallery {
     for (const sheets::SheetDesign& design : sheets::allSheets()) showSheet(design, ++mistakes);
     showCard();
     showClock();
+    showMaze();
+    showPiškôrky();
     forms_.endProgram();
   }
 
@@ -104,6 +121,60 @@ class Gallery {
     }
   }
 
+  void showMaze() {
+    forms_.setMaker(names::Bludisko, [this] {
+      return std::make_shared<maze::Bludisko>(forms_, dialogs_, time_,
+                                              dataFile("bludisko.txt").toStdString());
+    });
+    forms_.show(names::Bludisko);
+    take(names::Bludisko, "fresh");
+    // Along the wall on the right hand, which leads through any maze without loops.
+    constexpr std::array kTurns{Qt::Key_Up, Qt::Key_Right, Qt::Key_Down, Qt::Key_Left};
+    std::size_t facing = 1;
+    for (int step = 0; step < 60; ++step) {
+      facing = (facing + 1) % kTurns.size();
+      const QImage before = window(names::Bludisko).grab().toImage();
+      for (int turn = 0; turn < 4; ++turn) {
+        strike(names::Bludisko, kTurns.at(facing));
+        if (window(names::Bludisko).grab().toImage() != before) break;
+        facing = (facing + 3) % kTurns.size();
+      }
+    }
+    take(names::Bludisko, "walked");
+    forms_.unload(names::Bludisko);
+  }
+
+  void showPiškôrky() {
+    forms_.setMaker(names::Piškôrky, [this] {
+      return std::make_shared<piskorky::Piškôrky>(forms_, dialogs_, replies_);
+    });
+    forms_.show(names::Piškôrky);
+    take(names::Piškôrky, "empty");
+    playGame({0, 2, 4, 3, 6}, {1, 7}, "won");
+    playGame({0, 1, 8, 7}, {3, 4}, "lost");
+    forms_.unload(names::Piškôrky);
+  }
+
+  // A game of the child's moves, with the computer's first replies.
+  void playGame(std::initializer_list<int> moves, std::initializer_list<int> replies,
+                const QString& end) {
+    QWidget& form = window(names::Piškôrky);
+    form.findChild<QPushButton*>("Command1")->click();
+    replies_.cells = replies;
+    for (const int cell : moves) {
+      emit form.findChild<Cell*>(QString("s(%1)").arg(cell))->clicked();
+      // Lets the computer reply; ends the last move's box, too.
+      QTimer::singleShot(kPatience, qApp, [] { QCoreApplication::exit(0); });
+      QCoreApplication::exec();
+    }
+    take(names::Piškôrky, end);
+  }
+
+  void strike(FormName name, int key) {
+    QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window(name), &press);
+  }
+
   void showCard() {
     forms_.setMaker(names::Vysvedčenie,
                     [this] { return std::make_shared<report::Vysvedčenie>(forms_, premenné_); });
@@ -150,6 +221,7 @@ class Gallery {
   StandingClock time_;
   const QTemporaryDir home_;
   IniSettingsStore settings_{home_.path()};
+  ToldReplies replies_;
   TwisterRandom random_;
   Premenné premenné_;
   sheets::SheetServices services_{forms_, dialogs_, random_, premenné_};

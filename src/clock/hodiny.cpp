@@ -38,7 +38,7 @@ void Hodiny::build() {
   picBackGround_ =
       addCanvas(window(), {.name = "picBackGround",
                            .place = {0, 0, twips(kPicture.width), twips(kPicture.height)},
-                           .paint = [this](QPainter& painter) { paint(painter); },
+                           .paint = [this](QPainter& painter, const QRect&) { paint(painter); },
                            .accessibleName = "Hodiny"});
   const auto counter = [this](const char* name, int left, std::optional<Rgb> back) {
     return addLabel(*picBackGround_, {.name = name,

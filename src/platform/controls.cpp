@@ -1,7 +1,10 @@
 #include "platform/controls.h"
 
 #include <QKeyEvent>
+#include <QPaintEvent>
 #include <QPainter>
+#include <algorithm>
+#include <cstdlib>
 
 #include "platform/keys.h"
 #include "platform/pictures.h"
@@ -39,14 +42,29 @@ class Image : public QWidget {
   QString picture_;
 };
 
+// From one point of its own area to another.
 class Line : public QWidget {
  public:
-  Line(QWidget* parent, const Rgb& rgb) : QWidget(parent), colour_(colour(rgb)) {}
+  Line(QWidget* parent, const QLine& line, int width, const Rgb& rgb)
+      : QWidget(parent), line_(line), width_(width), colour_(colour(rgb)) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
 
  protected:
-  void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), colour_); }
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    if (line_.dx() == 0 || line_.dy() == 0) {
+      painter.fillRect(rect(), colour_);
+      return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colour_, width_, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(line_);
+  }
 
  private:
+  QLine line_;
+  int width_;
   QColor colour_;
 };
 
@@ -55,21 +73,38 @@ QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
   return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
 }
 
+void setUpLabel(QLabel& label, const LabelDesign& design) {
+  setUp(label, design.name, design.place);
+  label.setTextFormat(Qt::PlainText);
+  label.setText(design.caption);
+  label.setFont(font(design.type));
+  label.setAlignment(design.align);
+  label.setToolTip(design.tooltip);
+  QPalette palette = label.palette();
+  palette.setColor(QPalette::WindowText, colour(design.fore));
+  label.setPalette(palette);
+  if (design.back) setBack(label, *design.back);
+}
+
 }  // namespace
 
 QLabel* addLabel(QWidget& form, const LabelDesign& design) {
   auto* const label = new QLabel(&form);
-  setUp(*label, design.name, design.place);
-  label->setTextFormat(Qt::PlainText);
-  label->setText(design.caption);
-  label->setFont(font(design.type));
-  label->setAlignment(design.align);
-  label->setToolTip(design.tooltip);
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, colour(design.fore));
-  label->setPalette(palette);
-  if (design.back) setBack(*label, *design.back);
+  setUpLabel(*label, design);
   return label;
+}
+
+Cell* addCell(QWidget& form, const LabelDesign& design) {
+  auto* const cell = new Cell(&form);
+  setUpLabel(*cell, design);
+  return cell;
+}
+
+// Keeps the press from the form beneath: the release of the same button is wanted here.
+void Cell::mousePressEvent(QMouseEvent*) {}
+
+void Cell::mouseReleaseEvent(QMouseEvent* event) {
+  if (rect().contains(event->position().toPoint())) emit clicked();
 }
 
 void setBack(QLabel& label, const Rgb& back) {
@@ -139,13 +174,24 @@ QWidget* addImage(QWidget& form, const ImageDesign& design) {
 }
 
 QWidget* addLine(QWidget& form, const LineDesign& design) {
-  auto* const line = new Line(&form, design.colour);
+  const QPoint from(pixels(design.x1), pixels(design.y1));
+  const QPoint to(pixels(design.x2), pixels(design.y2));
+  const int before = design.width / 2;
+  QRect area = QRect(from, to).normalized();
+  if (from.y() == to.y()) {
+    area = {std::min(from.x(), to.x()), from.y() - before, std::abs(to.x() - from.x()),
+            design.width};
+  } else if (from.x() == to.x()) {
+    area = {from.x() - before, std::min(from.y(), to.y()), design.width,
+            std::abs(to.y() - from.y())};
+  } else {
+    area.adjust(-design.width, -design.width, design.width, design.width);
+  }
+  auto* const line = new Line(&form, QLine(from - area.topLeft(), to - area.topLeft()),
+                              design.width, design.colour);
   line->setObjectName(design.name);
-  const bool isLevel = design.y1 == design.y2;
-  const int x = pixels(design.x1) - (isLevel ? 0 : design.width / 2);
-  const int y = pixels(design.y1) - (isLevel ? design.width / 2 : 0);
-  line->setGeometry(x, y, isLevel ? pixels(design.x2) - x : design.width,
-                    isLevel ? design.width : pixels(design.y2) - y);
+  line->setGeometry(area);
+  line->setVisible(design.visible);
   return line;
 }
 
@@ -170,12 +216,11 @@ PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place
   return box;
 }
 
-Canvas::Canvas(QWidget* parent, std::function<void(QPainter&)> paint)
-    : QWidget(parent), paint_(std::move(paint)) {}
+Canvas::Canvas(QWidget* parent, Paint paint) : QWidget(parent), paint_(std::move(paint)) {}
 
-void Canvas::paintEvent(QPaintEvent*) {
+void Canvas::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  paint_(painter);
+  paint_(painter, event->rect());
 }
 
 // Keeps the press from the form beneath: the release of the same button is wanted here.

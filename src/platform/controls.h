@@ -73,7 +73,7 @@ struct ImageDesign {
 };
 QWidget* addImage(QWidget& form, const ImageDesign& design);
 
-// A straight line along either axis.
+// A straight line; the mouse doesn't feel it.
 struct LineDesign {
   QString name;
   int x1 = 0;  // twips
@@ -82,6 +82,7 @@ struct LineDesign {
   int y2 = 0;
   int width = 1;  // logical pixels
   Rgb colour = kInkColour;
+  bool visible = true;
 };
 QWidget* addLine(QWidget& form, const LineDesign& design);
 
@@ -106,7 +107,9 @@ class Canvas : public QWidget {
   Q_OBJECT
 
  public:
-  Canvas(QWidget* parent, std::function<void(QPainter&)> paint);
+  using Paint = std::function<void(QPainter&, const QRect& exposed)>;
+
+  Canvas(QWidget* parent, Paint paint);
 
  signals:
   void clicked();
@@ -117,13 +120,29 @@ class Canvas : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  std::function<void(QPainter&)> paint_;
+  Paint paint_;
 };
+
+// A label that feels clicks of any mouse button.
+class Cell : public QLabel {
+  Q_OBJECT
+
+ public:
+  using QLabel::QLabel;
+
+ signals:
+  void clicked();
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+};
+Cell* addCell(QWidget& form, const LabelDesign& design);
 
 struct CanvasDesign {
   QString name;
-  Place place;
-  std::function<void(QPainter&)> paint;
+  Place place{};
+  Canvas::Paint paint;
   QString accessibleName{};
 };
 Canvas* addCanvas(QWidget& form, const CanvasDesign& design);

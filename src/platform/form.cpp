@@ -27,6 +27,8 @@ void Form::cutTo(const std::vector<ScreenPoint>& outline) {
   window_->cutTo(polygon);
 }
 
+void Form::setClientSize(const PixelSize& size) { window_->setFixedSize(size.width, size.height); }
+
 bool Form::hasEnded() const { return forms_.isEnding(); }
 
 void Form::load() {

@@ -55,6 +55,8 @@ class Form : public std::enable_shared_from_this<Form> {
   virtual void build() = 0;
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
+  // A key goes down on the form, by the system's code (platform/keys.h); a held key repeats.
+  virtual void Form_KeyDown(int /*keyCode*/) {}
 
   Forms& forms() const { return forms_; }
 
@@ -80,6 +82,9 @@ class Form : public std::enable_shared_from_this<Form> {
   // Cuts the window to an outline in logical pixels, filled by the even-odd rule, and lets it be
   // dragged by its background with any mouse button. Only while the form loads.
   void cutTo(const std::vector<ScreenPoint>& outline);
+
+  // Makes the client area that large, in logical pixels.
+  void setClientSize(const PixelSize& size);
 
   // Gives the keyboard to a control, and brings its window in front where another window of the
   // program has it.

@@ -2,12 +2,14 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QWindow>
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
+#include "platform/keys.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
 
@@ -82,6 +84,12 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   if (form_ == nullptr) return;
   const Form::HandlerScope scope(*form_);
   form_->unload();
+}
+
+void FormWindow::keyPressEvent(QKeyEvent* event) {
+  if (form_ == nullptr || form_->hasEnded()) return;
+  const Form::HandlerScope scope(*form_);
+  form_->Form_KeyDown(keyCode(*event));
 }
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {

@@ -10,6 +10,7 @@ namespace ratanka {
 class TwisterRandom : public Random {
  public:
   double next() override;
+  void reseedFromClock() override;
 
  private:
   std::mt19937_64 engine_;

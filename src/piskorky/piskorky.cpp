@@ -1,0 +1,170 @@
+#include "piskorky/piskorky.h"
+
+#include "platform/controls.h"
+#include "platform/forms.h"
+#include "platform/text.h"
+#include "platform/timer.h"
+#include "shell/names.h"
+
+namespace ratanka::piskorky {
+namespace {
+
+constexpr Rgb kBlack{0, 0, 0};
+constexpr Rgb kBlue{0, 0, 192};
+constexpr Rgb kWhite{255, 255, 255};
+constexpr Rgb kGreen{0, 255, 0};
+constexpr Rgb kRed{255, 0, 0};
+constexpr Rgb kYellow{255, 255, 0};
+constexpr int kLineWidth = 4;
+
+constexpr std::array kCellLefts{240, 1080, 1800};
+constexpr std::array kCellTops{120, 960, 1800};
+
+struct Stroke {
+  int x1, y1, x2, y2;  // twips
+};
+constexpr Stroke kGrid[] = {
+    {840, 120, 840, 2400}, {1680, 120, 1680, 2400}, {120, 840, 2400, 840}, {120, 1680, 2400, 1680}};
+constexpr std::array<Stroke, kLines> kStrokes{{{120, 360, 2400, 360},
+                                               {120, 1200, 2400, 1200},
+                                               {120, 2160, 2400, 2160},
+                                               {360, 120, 360, 2400},
+                                               {1200, 120, 1200, 2400},
+                                               {1920, 120, 1920, 2400},
+                                               {240, 240, 2280, 2280},
+                                               {120, 2280, 2280, 120}}};
+
+QString indexed(const char* name, int index) {
+  return QString(name) + '(' + QString::number(index) + ')';
+}
+
+LineDesign line(const QString& name, const Stroke& stroke, const Rgb& rgb) {
+  return {.name = name,
+          .x1 = stroke.x1,
+          .y1 = stroke.y1,
+          .x2 = stroke.x2,
+          .y2 = stroke.y2,
+          .width = kLineWidth,
+          .colour = rgb};
+}
+
+}  // namespace
+
+Piškôrky::Piškôrky(Forms& forms, Dialogs& dialogs, Random& random)
+    : Form(forms, {.name = names::Piškôrky,
+                   .caption = "Piškôrky",
+                   .width = 4200,
+                   .height = 2595,
+                   .back = kBlack}),
+      dialogs_(dialogs),
+      random_(random) {}
+
+void Piškôrky::build() {
+  buildBoard();
+  buildPanel();
+  poll_ = timer("Timer1", 1, [this] { Timer1_Timer(); });
+}
+
+void Piškôrky::buildBoard() {
+  for (int index = 0; index < kCells; ++index) {
+    const auto column = static_cast<std::size_t>(index % 3);
+    const auto row = static_cast<std::size_t>(index / 3);
+    Cell* const cell =
+        addCell(window(), {.name = indexed("s", index),
+                           .place = {kCellLefts.at(column), kCellTops.at(row), 615, 615},
+                           .type = {.points = 24},
+                           .fore = kBlue,
+                           .back = kBlack,
+                           .align = Qt::AlignCenter});
+    on(cell, &Cell::clicked, [this, index] { s_Click(index); });
+    s_.at(static_cast<std::size_t>(index)) = cell;
+  }
+  int number = 0;
+  for (const Stroke& stroke : kGrid) {
+    addLine(window(), line("Line" + QString::number(++number), stroke, kRed));
+  }
+  for (int index = 0; index < kLines; ++index) {
+    const auto at = static_cast<std::size_t>(index);
+    LineDesign design = line(indexed("Line5", index), kStrokes.at(at), kYellow);
+    design.visible = false;
+    strokes_.at(at) = addLine(window(), design);
+  }
+}
+
+void Piškôrky::buildPanel() {
+  const auto button = [this](const char* name, int top, const char* caption) {
+    return addButton(window(), {.name = name,
+                                .place = {2640, top, 1440, 450},
+                                .caption = caption,
+                                .type = {.points = 9.75}});
+  };
+  Button* const again = button("Command1", 120, "Nová hra");
+  Button* const leave = button("Command2", 720, "Koniec");
+  on(again, &Button::clicked, [this] { Command1_Click(); });
+  on(leave, &Button::clicked, [this] { Command2_Click(); });
+
+  const auto label = [this](int index, const Place& place, const char* caption, double points,
+                            const Rgb& fore) {
+    return addLabel(window(), {.name = indexed("Label1", index),
+                               .place = place,
+                               .caption = caption,
+                               .type = {.family = "Comic Sans MS", .points = points, .bold = true},
+                               .fore = fore,
+                               .align = Qt::AlignCenter});
+  };
+  label(0, {2520, 1440, 690, 360}, "Výhry", 9.75, kWhite);
+  label(1, {3300, 1440, 780, 360}, "Prehry", 9.75, kWhite);
+  won_ = label(2, {2520, 1860, 690, 600}, "0", 18, kGreen);
+  lost_ = label(3, {3300, 1860, 780, 600}, "0", 18, kRed);
+  addLine(window(), line("Line6", {3240, 1440, 3240, 2520}, kYellow));
+
+  // Beside the window, where nobody sees them.
+  lblnum_ = addLabel(window(), {.name = "lblnum", .place = {4800, 120, 600, 300}, .caption = "1"});
+  turn_ = addLabel(window(), {.name = "turn", .place = {4800, 600, 600, 300}});
+}
+
+void Piškôrky::Form_Load() {
+  game_ = {};
+  refresh();
+}
+
+void Piškôrky::s_Click(int index) {
+  game_.play(index);
+  refresh();
+}
+
+void Piškôrky::Timer1_Timer() {
+  const std::optional<Outcome> outcome = game_.tick(random_);
+  refresh();
+  if (!outcome) return;
+  dialogs_.message(outcomeBox(*outcome));
+  game_.finish();
+  refresh();
+}
+
+void Piškôrky::Command1_Click() {
+  game_.newGame();
+  refresh();
+}
+
+void Piškôrky::Command2_Click() { forms().drop(names::Piškôrky); }
+
+void Piškôrky::refresh() {
+  for (int index = 0; index < kCells; ++index) {
+    Cell& cell = *s_.at(static_cast<std::size_t>(index));
+    const QString mark = ratanka::text(piskorky::text(game_.s(index)));
+    cell.setText(mark);
+    cell.setAccessibleName("Políčko " + QString::number(index + 1) + ": " +
+                           (mark.isEmpty() ? QString("prázdne") : mark));
+  }
+  for (std::size_t index = 0; index < strokes_.size(); ++index) {
+    strokes_.at(index)->setVisible(game_.strokes()[index]);
+  }
+  won_->setText(QString::number(game_.won()));
+  lost_->setText(QString::number(game_.lost()));
+  lblnum_->setText(QString::number(game_.lblnum()));
+  turn_->setText(ratanka::text(piskorky::text(game_.turn())));
+  poll_->setEnabled(game_.hasWork());
+}
+
+}  // namespace ratanka::piskorky
