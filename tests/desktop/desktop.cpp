@@ -232,12 +232,12 @@ bool PrivateDesktop::clothWasPressed() {
   return pressed;
 }
 
-std::string PrivateDesktop::darkness(int x, int y, PixelSize size) const {
+std::string PrivateDesktop::darkness(int x, int y, PixelSize size, int light) const {
   std::string shape;
   for (int row = 0; row < size.height; ++row) {
     for (int column = 0; column < size.width; ++column) {
       const Rgb colour = pixel(x + column, y + row);
-      shape += colour.red + colour.green + colour.blue < 3 * 110 ? '#' : '.';
+      shape += colour.red + colour.green + colour.blue < light ? '#' : '.';
     }
     shape += '\n';
   }

@@ -50,8 +50,9 @@ class PrivateDesktop {
   bool clothWasPressed();
 
   Rgb pixel(int x, int y) const;
-  // Where something dark stands in an area: '#' for dark, '.' for the rest, a line a row.
-  std::string darkness(int x, int y, PixelSize size) const;
+  // Where something dark stands in an area: '#' for a pixel whose three colours are less than
+  // `light` together, '.' for the rest, a line a row.
+  std::string darkness(int x, int y, PixelSize size, int light = 330) const;
   bool waitForPixel(int x, int y, const Rgb& colour) const;
 
  private:
