@@ -39,6 +39,7 @@ void measure(const Programs& programs, const Runs& runs) {
   measureDigits(robot, programs, runs.digitPairs);
   measureTicks(robot, programs, runs.tickSets);
   measureVisits(robot, programs, runs.visits);
+  measureGames(robot, programs, runs.restSeconds);
 }
 
 }  // namespace

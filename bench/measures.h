@@ -12,6 +12,9 @@ void measureStart(Robot& robot, const Programs& programs, int pairs);
 // With the menu at rest, against the bare window in turns.
 void measureMemory(Robot& robot, const Programs& programs, int pairs);
 
+// A second of a process's life at rest, on the average over so many.
+Process::Usage usageASecond(const Process& process, int seconds);
+
 // What the program does while the child does nothing. Needs a window manager.
 void measureRest(Robot& robot, const Programs& programs, int seconds);
 
@@ -25,5 +28,9 @@ void measureTicks(Robot& robot, const Programs& programs, int sets);
 // and what so many visits leave in memory; then from the card's OK to the end of the process. Needs
 // a window manager.
 void measureVisits(Robot& robot, const Programs& programs, int visits);
+
+// What noughts and crosses cost at rest beyond their sheet, and how long a great maze takes to
+// open. Needs a window manager.
+void measureGames(Robot& robot, const Programs& programs, int seconds);
 
 }  // namespace ratanka::bench

@@ -56,10 +56,10 @@ Area shownResult(int row) { return inRow(row, {{400, 24}, 47, 24}); }
 
 Point sheetButton(int number) { return {388 + 52, 241 + 28 + 32 * number}; }
 
-void openSheet(Robot& robot, const OpenWindow& menu) {
+void openSheet(Robot& robot, const OpenWindow& menu, int number) {
   rest(kSettled);
   const std::string before = robot.look(kSheetEdge);
-  robot.click(sheetButton(0));
+  robot.click(sheetButton(number));
   robot.awaitChange(kSheetEdge, before);
   robot.movePointer({});
   robot.awaitFocus(menu.process().id());

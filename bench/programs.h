@@ -56,7 +56,8 @@ inline constexpr Point kCardButton{388 + 120, 241 + 252};
 inline constexpr Area kCardEdge{{345, 560}, 30, 10};  // where no menu ever stands
 inline constexpr Point kCardOk{332 + 181, 152 + 430};
 
-// Goes from the menu to the sheet of small sums; returns when it stands there and has the keyboard.
-void openSheet(Robot& robot, const OpenWindow& menu);
+// Goes from the menu to a sheet, that of small sums unless told otherwise; returns when it stands
+// there and has the keyboard.
+void openSheet(Robot& robot, const OpenWindow& menu, int number = 0);
 
 }  // namespace ratanka::bench

@@ -6,7 +6,8 @@ namespace {
 
 constexpr std::chrono::seconds kSettled{2};
 
-// A second of a process's life, on the average over so many.
+}  // namespace
+
 Process::Usage usageASecond(const Process& process, int seconds) {
   rest(kSettled);
   const Process::Usage before = process.usage();
@@ -15,8 +16,6 @@ Process::Usage usageASecond(const Process& process, int seconds) {
   return {.wakeUps = (after.wakeUps - before.wakeUps) / seconds,
           .cpuSeconds = (after.cpuSeconds - before.cpuSeconds) / seconds};
 }
-
-}  // namespace
 
 void measureRest(Robot& robot, const Programs& programs, int seconds) {
   const OpenWindow window(robot, programs.ratanka);

@@ -8,10 +8,21 @@
 #include <QWidget>
 
 #include "fakes.h"
+#include "platform/form.h"
 #include "platform/forms.h"
 #include "platform/text.h"
 
 namespace ratanka {
+
+// A form with nothing on it.
+class PlainForm : public Form {
+ public:
+  PlainForm(Forms& forms, FormName name)
+      : Form(forms, {.name = name, .width = 3000, .height = 3000}) {}
+
+ protected:
+  void build() override {}
+};
 
 // A child's hands at forms without a display, and steered services around them.
 class FormTest : public testing::Test {
@@ -20,6 +31,11 @@ class FormTest : public testing::Test {
     // A program that ended in an earlier test would let no box wait in this one.
     QTimer::singleShot(0, qApp, &QCoreApplication::quit);
     QCoreApplication::exec();
+  }
+
+  // Lets a plain form stand for the one of that name.
+  void makePlain(FormName name) {
+    forms.setMaker(name, [this, name] { return std::make_shared<PlainForm>(forms, name); });
   }
 
   // The window of a loaded form; null where there is none.

@@ -162,7 +162,7 @@ class Gallery {
     form.findChild<QPushButton*>("Command1")->click();
     replies_.cells = replies;
     for (const int cell : moves) {
-      emit form.findChild<Cell*>(QString("s(%1)").arg(cell))->clicked();
+      emit form.findChild<QLabel*>(QString("s(%1)").arg(cell))->findChild<Clicks*>()->clicked();
       // Lets the computer reply; ends the last move's box, too.
       QTimer::singleShot(kPatience, qApp, [] { QCoreApplication::exit(0); });
       QCoreApplication::exec();

@@ -51,7 +51,7 @@ void Hodiny::build() {
   constexpr Rgb kWhite{255, 255, 255};
   counters_ = {counter("Label1", 1200, {}), counter("Label2", 1560, kWhite),
                counter("Label3", 2040, kWhite)};
-  on(picBackGround_, &Canvas::clicked, [this] { picBackGround_Click(); });
+  on(new Clicks(*picBackGround_), &Clicks::clicked, [this] { picBackGround_Click(); });
   for (Timer* const each : {timer("tmrClock", 100, [this] { tmrClock_Timer(); }),
                             timer("tmr", 1000, [this] { tmr_Timer(); })}) {
     each->setImpatient();  // time doesn't stop at a question

@@ -70,6 +70,7 @@ void Bludisko::build() {
   canvas_ = addCanvas(window(), {.name = "picMaze",
                                  .paint = [this](QPainter& painter,
                                                  const QRect& exposed) { paint(painter, exposed); },
+                                 .isOpaque = true,
                                  .accessibleName = "Bludisko"});
   addImage(window(), {.name = "picPlayer",
                       .place = {0, 0, twips(kFigure), twips(kFigure)},

@@ -69,14 +69,14 @@ void Piškôrky::buildBoard() {
   for (int index = 0; index < kCells; ++index) {
     const auto column = static_cast<std::size_t>(index % 3);
     const auto row = static_cast<std::size_t>(index / 3);
-    Cell* const cell =
-        addCell(window(), {.name = indexed("s", index),
-                           .place = {kCellLefts.at(column), kCellTops.at(row), 615, 615},
-                           .type = {.points = 24},
-                           .fore = kBlue,
-                           .back = kBlack,
-                           .align = Qt::AlignCenter});
-    on(cell, &Cell::clicked, [this, index] { s_Click(index); });
+    QLabel* const cell =
+        addLabel(window(), {.name = indexed("s", index),
+                            .place = {kCellLefts.at(column), kCellTops.at(row), 615, 615},
+                            .type = {.points = 24},
+                            .fore = kBlue,
+                            .back = kBlack,
+                            .align = Qt::AlignCenter});
+    on(new Clicks(*cell), &Clicks::clicked, [this, index] { s_Click(index); });
     s_.at(static_cast<std::size_t>(index)) = cell;
   }
   int number = 0;
@@ -151,7 +151,7 @@ void Piškôrky::Command2_Click() { forms().drop(names::Piškôrky); }
 
 void Piškôrky::refresh() {
   for (int index = 0; index < kCells; ++index) {
-    Cell& cell = *s_.at(static_cast<std::size_t>(index));
+    QLabel& cell = *s_.at(static_cast<std::size_t>(index));
     const QString mark = ratanka::text(piskorky::text(game_.s(index)));
     cell.setText(mark);
     cell.setAccessibleName("Políčko " + QString::number(index + 1) + ": " +

@@ -11,7 +11,6 @@ class QLabel;
 class QWidget;
 
 namespace ratanka {
-class Cell;
 class Timer;
 }
 
@@ -41,7 +40,7 @@ class Piškôrky : public Form {
   Random& random_;
   Game game_;
 
-  std::array<Cell*, kCells> s_{};
+  std::array<QLabel*, kCells> s_{};
   std::array<QWidget*, kLines> strokes_{};
   QLabel* won_ = nullptr;
   QLabel* lost_ = nullptr;

@@ -73,38 +73,21 @@ QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
   return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
 }
 
-void setUpLabel(QLabel& label, const LabelDesign& design) {
-  setUp(label, design.name, design.place);
-  label.setTextFormat(Qt::PlainText);
-  label.setText(design.caption);
-  label.setFont(font(design.type));
-  label.setAlignment(design.align);
-  label.setToolTip(design.tooltip);
-  QPalette palette = label.palette();
-  palette.setColor(QPalette::WindowText, colour(design.fore));
-  label.setPalette(palette);
-  if (design.back) setBack(label, *design.back);
-}
-
 }  // namespace
 
 QLabel* addLabel(QWidget& form, const LabelDesign& design) {
   auto* const label = new QLabel(&form);
-  setUpLabel(*label, design);
+  setUp(*label, design.name, design.place);
+  label->setTextFormat(Qt::PlainText);
+  label->setText(design.caption);
+  label->setFont(font(design.type));
+  label->setAlignment(design.align);
+  label->setToolTip(design.tooltip);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, colour(design.fore));
+  label->setPalette(palette);
+  if (design.back) setBack(*label, *design.back);
   return label;
-}
-
-Cell* addCell(QWidget& form, const LabelDesign& design) {
-  auto* const cell = new Cell(&form);
-  setUpLabel(*cell, design);
-  return cell;
-}
-
-// Keeps the press from the form beneath: the release of the same button is wanted here.
-void Cell::mousePressEvent(QMouseEvent*) {}
-
-void Cell::mouseReleaseEvent(QMouseEvent* event) {
-  if (rect().contains(event->position().toPoint())) emit clicked();
 }
 
 void setBack(QLabel& label, const Rgb& back) {
@@ -223,17 +206,21 @@ void Canvas::paintEvent(QPaintEvent* event) {
   paint_(painter, event->rect());
 }
 
-// Keeps the press from the form beneath: the release of the same button is wanted here.
-void Canvas::mousePressEvent(QMouseEvent*) {}
+Clicks::Clicks(QWidget& control) : QObject(&control) { control.installEventFilter(this); }
 
-void Canvas::mouseReleaseEvent(QMouseEvent* event) {
-  if (rect().contains(event->position().toPoint())) emit clicked();
+bool Clicks::eventFilter(QObject* watched, QEvent* event) {
+  const bool isRelease = event->type() == QEvent::MouseButtonRelease;
+  if (!isRelease && event->type() != QEvent::MouseButtonPress) return false;
+  const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
+  if (isRelease && static_cast<QWidget*>(watched)->rect().contains(at)) emit clicked();
+  return true;
 }
 
 Canvas* addCanvas(QWidget& form, const CanvasDesign& design) {
   auto* const canvas = new Canvas(&form, design.paint);
   setUp(*canvas, design.name, design.place);
   canvas->setAccessibleName(design.accessibleName);
+  canvas->setAttribute(Qt::WA_OpaquePaintEvent, design.isOpaque);
   return canvas;
 }
 

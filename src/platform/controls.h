@@ -102,47 +102,40 @@ class PictureBox : public QWidget {
 };
 PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place);
 
-// An area that the form paints whole; feels clicks of any mouse button.
-class Canvas : public QWidget {
+// Feels the clicks of any mouse button on a control that has none of its own. Keeps them from the
+// form beneath.
+class Clicks : public QObject {
   Q_OBJECT
 
+ public:
+  explicit Clicks(QWidget& control);
+
+ signals:
+  void clicked();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+};
+
+// An area that the form paints whole.
+class Canvas : public QWidget {
  public:
   using Paint = std::function<void(QPainter&, const QRect& exposed)>;
 
   Canvas(QWidget* parent, Paint paint);
 
- signals:
-  void clicked();
-
  protected:
   void paintEvent(QPaintEvent* event) override;
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
   Paint paint_;
 };
 
-// A label that feels clicks of any mouse button.
-class Cell : public QLabel {
-  Q_OBJECT
-
- public:
-  using QLabel::QLabel;
-
- signals:
-  void clicked();
-
- protected:
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-};
-Cell* addCell(QWidget& form, const LabelDesign& design);
-
 struct CanvasDesign {
   QString name;
   Place place{};
   Canvas::Paint paint;
+  bool isOpaque = false;  // paints every pixel
   QString accessibleName{};
 };
 Canvas* addCanvas(QWidget& form, const CanvasDesign& design);

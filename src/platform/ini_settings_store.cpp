@@ -13,6 +13,9 @@ QString pathOf(std::string_view section, std::string_view key) {
   return text(section) + '/' + text(key);
 }
 
+// A comma that somebody typed into the file by hand makes a list of the text: joins it again.
+QString textOf(const QVariant& value) { return value.toStringList().join(", "); }
+
 }  // namespace
 
 QString IniSettingsStore::usersFolder() {
@@ -27,15 +30,16 @@ std::string IniSettingsStore::read(std::string_view application, std::string_vie
                                    std::string_view key, std::string_view fallback) const {
   const QSettings store(fileOf(application), QSettings::IniFormat);
   const QVariant value = store.value(pathOf(section, key));
-  if (!value.isValid()) return std::string(fallback);
-  // A comma that somebody typed into the file by hand makes a list of the text: join it again.
-  return value.toStringList().join(", ").toStdString();
+  return value.isValid() ? textOf(value).toStdString() : std::string(fallback);
 }
 
 void IniSettingsStore::write(std::string_view application, std::string_view section,
                              std::string_view key, std::string_view value) {
   QSettings store(fileOf(application), QSettings::IniFormat);
-  store.setValue(pathOf(section, key), text(value));
+  const QString path = pathOf(section, key);
+  // What is there already isn't written again: a disk takes its time.
+  const QVariant there = store.value(path);
+  if (!there.isValid() || textOf(there) != text(value)) store.setValue(path, text(value));
 }
 
 }  // namespace ratanka

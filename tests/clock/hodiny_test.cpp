@@ -31,20 +31,11 @@ class HodinyTest : public FormTest {
   HodinyTest() {
     forms.setMaker(names::Hodiny,
                    [this] { return std::make_shared<Hodiny>(forms, dialogs, time, settings); });
-    forms.setMaker(names::Malá, [this] { return std::make_shared<Sheet>(forms); });
+    makePlain(names::Malá);
     forms.show(names::Malá);
     forms.show(names::Hodiny);
     settle();
   }
-
-  class Sheet : public Form {
-   public:
-    explicit Sheet(Forms& forms)
-        : Form(forms, {.name = names::Malá, .width = 3000, .height = 3000}) {}
-
-   protected:
-    void build() override {}
-  };
 
   static Canvas* face() { return control<Canvas>(names::Hodiny, "picBackGround"); }
   static std::string counters() {

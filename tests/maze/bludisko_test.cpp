@@ -25,19 +25,10 @@ class BludiskoTest : public FormTest {
     forms.setMaker(names::Bludisko, [this] {
       return std::make_shared<Bludisko>(forms, dialogs, time, path().toStdString());
     });
-    forms.setMaker(names::Malá, [this] { return std::make_shared<Sheet>(forms); });
+    makePlain(names::Malá);
     forms.show(names::Malá);
     write(kMaze);
   }
-
-  class Sheet : public Form {
-   public:
-    explicit Sheet(Forms& forms)
-        : Form(forms, {.name = names::Malá, .width = 3000, .height = 3000}) {}
-
-   protected:
-    void build() override {}
-  };
 
   QString path() const { return folder_.filePath("bludisko.txt"); }
 

@@ -32,14 +32,6 @@ class BoxForm : public Form {
   }
 };
 
-class OtherForm : public Form {
- public:
-  explicit OtherForm(Forms& forms) : Form(forms, {.name = kOther, .width = 3000, .height = 1500}) {}
-
- protected:
-  void build() override {}
-};
-
 class DialogsTest : public FormTest {
  protected:
   DialogsTest() {
@@ -149,7 +141,7 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesABoxAndShowsNoOther) {
 }
 
 TEST_F(DialogsTest, ABoxOutlivesTheFormBeneathIt) {
-  forms.setMaker(kOther, [this] { return std::make_shared<OtherForm>(forms); });
+  makePlain(kOther);
   forms.show(kOther);
   activate(*window(kForm));
   form->onKeyUp = [this](int) {

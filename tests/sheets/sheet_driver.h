@@ -28,19 +28,6 @@ class SheetTest : public FormTest {
     }
   }
 
-  class PlainForm : public Form {
-   public:
-    PlainForm(Forms& forms, FormName name)
-        : Form(forms, {.name = name, .width = 3000, .height = 3000}) {}
-
-   protected:
-    void build() override {}
-  };
-
-  void makePlain(FormName name) {
-    forms.setMaker(name, [this, name] { return std::make_shared<PlainForm>(forms, name); });
-  }
-
   void openSheet() {
     forms.show(sheet_);
     settle();

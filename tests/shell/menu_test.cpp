@@ -10,15 +10,6 @@
 namespace ratanka {
 namespace {
 
-class PlainForm : public Form {
- public:
-  PlainForm(Forms& forms, FormName name)
-      : Form(forms, {.name = name, .width = 3000, .height = 3000}) {}
-
- protected:
-  void build() override {}
-};
-
 class MenuTest : public FormTest {
  protected:
   MenuTest() {
@@ -29,10 +20,6 @@ class MenuTest : public FormTest {
       ++menusMade;
       return std::make_shared<Úvod>(forms);
     });
-  }
-
-  void make(FormName name) {
-    forms.setMaker(name, [this, name] { return std::make_shared<PlainForm>(forms, name); });
   }
 
   void start() {
@@ -148,7 +135,7 @@ TEST_F(MenuTest, EachButtonHandsOverToItsSheet) {
       {"Command4", names::Delenie}, {"Command5", names::Veľkéčísla}, {"Command8", names::Zátvorky},
       {"Command9", names::Hádanka}};
   for (const auto& [button, sheet] : sheets) {
-    make(sheet);
+    makePlain(sheet);
     forms.show(names::Úvod);
     click(control<QPushButton>(names::Úvod, button));
     settle();
@@ -172,7 +159,7 @@ TEST_F(MenuTest, AButtonWithoutAFormDoesNothing) {
 TEST_F(MenuTest, TheCardClosesAllButTheGames) {
   start();
   for (const FormName& name : {names::Vysvedčenie, names::Malá, names::Hodiny, names::Bludisko}) {
-    make(name);
+    makePlain(name);
   }
   for (const FormName& name : {names::Malá, names::Hodiny, names::Bludisko}) forms.show(name);
   click(control<QPushButton>(names::Úvod, "Command6"));
@@ -186,7 +173,7 @@ TEST_F(MenuTest, TheCardClosesAllButTheGames) {
 
 TEST_F(MenuTest, BothEnterKeysAndTheSpaceBarPressAButtonWhenTheyAreReleased) {
   for (const int key : {Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space}) {
-    make(names::Veľká);
+    makePlain(names::Veľká);
     forms.show(names::Úvod);
     settle();
     control<QPushButton>(names::Úvod, "Command2")->setFocus();
@@ -205,7 +192,7 @@ TEST_F(MenuTest, StandsInTheMiddleAgainAfterItWasMoved) {
   start();
   const QPoint middle = window(names::Úvod)->pos();
   window(names::Úvod)->move(3, 4);
-  make(names::Malá);
+  makePlain(names::Malá);
   click(control<QPushButton>(names::Úvod, "Command1"));
   settle();
   forms.show(names::Úvod);

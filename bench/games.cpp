@@ -1,0 +1,89 @@
+#include <filesystem>
+#include <fstream>
+
+#include "figure.h"
+#include "measures.h"
+#include "platform/twister_random.h"
+#include "sheets/rules/sums.h"
+
+namespace ratanka::bench {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr Point kReward{244 + 348, 133 + 468};
+constexpr int kHádanka = 6;  // its button in the menu
+constexpr int kMazeSide = 200;
+constexpr auto kPause = 3500ms;  // until the next set has come
+
+void doSet(Robot& robot, const sheets::Examples& examples) {
+  for (const sheets::Example& example : examples) {
+    for (const char digit : std::to_string(example.Výsledok)) robot.strike(digitKey(digit));
+    robot.strike(Key::enter);
+    rest(60ms);
+  }
+}
+
+void measurePiškôrky(Robot& robot, const Programs& programs, int seconds) {
+  const OpenWindow window(robot, programs.ratanka);
+  openSheet(robot, window, kHádanka);
+  TwisterRandom random;
+  doSet(robot, sheets::hádanka::ShowStart(random));
+  rest(kPause);
+  const Process::Usage without = usageASecond(window.process(), seconds);
+  robot.forgetWindows();
+  robot.click(kReward);
+  robot.awaitWindow();
+  robot.movePointer({});
+  const Process::Usage with = usageASecond(window.process(), seconds);
+  print({"Piškôrky beyond their sheet: wake-ups a second", with.wakeUps - without.wakeUps, "", 10});
+  print({"Piškôrky beyond their sheet: of one core", (with.cpuSeconds - without.cpuSeconds) * 100,
+         "%", 0.5});
+}
+
+// A copy of the program with a maze of walls and ways in turn.
+std::filesystem::path withGreatMaze(const std::string& program) {
+  const std::filesystem::path folder =
+      std::filesystem::temp_directory_path() / "ratanka-great-maze";
+  std::filesystem::create_directories(folder);
+  std::filesystem::copy_file(program, folder / "ratanka",
+                             std::filesystem::copy_options::overwrite_existing);
+  std::ofstream maze(folder / "bludisko.txt");
+  maze << kMazeSide << ',' << kMazeSide << '\n';
+  for (int row = 0; row < kMazeSide; ++row) {
+    std::string cells(kMazeSide, '.');
+    for (int column = row % 2; column < kMazeSide; column += 3) {
+      cells[static_cast<std::size_t>(column)] = '#';
+    }
+    if (row == 0) cells[1] = 's';
+    if (row == kMazeSide - 1) cells[kMazeSide - 3] = 'f';
+    maze << cells << '\n';
+  }
+  return folder;
+}
+
+void measureMaze(Robot& robot, const Programs& programs) {
+  const std::filesystem::path folder = withGreatMaze(programs.ratanka.command.front());
+  {
+    const OpenWindow window(robot, {{folder / "ratanka"}, programs.ratanka.corner});
+    openSheet(robot, window);
+    TwisterRandom random;
+    doSet(robot, sheets::malá::ShowStart(random));
+    rest(kPause);
+    const std::string before = robot.look(kSheetEdge);
+    const Time called = std::chrono::steady_clock::now();
+    robot.click(kReward);
+    print({"opening a maze of 200 x 200",
+           milliseconds(called, robot.awaitChange(kSheetEdge, before)), "ms", 100});
+  }
+  std::filesystem::remove_all(folder);
+}
+
+}  // namespace
+
+void measureGames(Robot& robot, const Programs& programs, int seconds) {
+  measurePiškôrky(robot, programs, seconds);
+  measureMaze(robot, programs);
+}
+
+}  // namespace ratanka::bench
