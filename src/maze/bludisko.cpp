@@ -124,11 +124,16 @@ void Bludisko::finish() {
 void Bludisko::paint(QPainter& painter, const QRect& exposed) const {
   if (!walk_) return;
   const Maze& maze = walk_->maze();
+  painter.fillRect(exposed, colour(kWay));
+  painter.fillRect(cellArea(maze.Finish), colour(kGoal));
+  const QColor wall = colour(kWall);
+  const int lastCol = exposed.right() / kCell + 1;
   for (int row = exposed.top() / kCell + 1; row <= exposed.bottom() / kCell + 1; ++row) {
-    for (int col = exposed.left() / kCell + 1; col <= exposed.right() / kCell + 1; ++col) {
-      const Cell cell{row, col};
-      const Rgb& way = cell == maze.Finish ? kGoal : kWay;
-      painter.fillRect(cellArea(cell), colour(maze.Map(cell) ? way : kWall));
+    for (int col = exposed.left() / kCell + 1; col <= lastCol; ++col) {
+      const int firstOfWall = col;
+      while (col <= lastCol && !maze.Map({row, col})) ++col;
+      if (col == firstOfWall) continue;
+      painter.fillRect(cellArea({row, firstOfWall}) | cellArea({row, col - 1}), wall);
     }
   }
   for (const Cell& cell : walk_->bites()) {

@@ -25,10 +25,10 @@ QRegion grown(const QRegion& region) {
   return result;
 }
 
-// The window system's move follows the left button alone on X11.
-bool movesByItself(QWindow& window, Qt::MouseButton button) {
-  const bool isX11 = QGuiApplication::platformName() == "xcb";
-  return (button == Qt::LeftButton || !isX11) && window.startSystemMove();
+// Whether the window system takes the drag over. Not on X11: its managers follow the left button
+// alone, and one that hears of a drag after its release lets the window hang on the pointer.
+bool movesByItself(QWindow& window) {
+  return QGuiApplication::platformName() != "xcb" && window.startSystemMove();
 }
 
 }  // namespace
@@ -95,19 +95,12 @@ void FormWindow::keyPressEvent(QKeyEvent* event) {
 void FormWindow::mousePressEvent(QMouseEvent* event) {
   // A press that a label or an image doesn't want comes here too.
   const bool isOnBackground = childAt(event->position().toPoint()) == nullptr;
-  if (!outline_.isEmpty() && isOnBackground) grip_ = {event->button(), event->position().toPoint()};
+  if (outline_.isEmpty() || !isOnBackground || movesByItself(*windowHandle())) return;
+  grip_ = event->position().toPoint();
 }
 
 void FormWindow::mouseMoveEvent(QMouseEvent* event) {
-  if (!grip_) return;
-  move(event->globalPosition().toPoint() - grip_->at);
-  // The window system goes on from here. Not at the press already: a window manager that hears of
-  // it after the release would let the window hang on the pointer.
-  if (!grip_->isOurs && movesByItself(*windowHandle(), grip_->button)) {
-    grip_.reset();
-  } else {
-    grip_->isOurs = true;
-  }
+  if (grip_) move(event->globalPosition().toPoint() - *grip_);
 }
 
 void FormWindow::mouseReleaseEvent(QMouseEvent* event) {

@@ -30,18 +30,12 @@ class FormWindow : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  struct Grip {
-    Qt::MouseButton button = Qt::NoButton;
-    QPoint at{};
-    bool isOurs = false;  // we move the window, not the window system
-  };
-
   void paintBackground(QPainter& painter) const;
 
   Form* form_;
   const FormDesign design_;
-  QPolygon outline_;          // empty where the window isn't cut
-  std::optional<Grip> grip_;  // while the window is held by its background
+  QPolygon outline_;            // empty where the window isn't cut
+  std::optional<QPoint> grip_;  // where the window is held, while we move it
 };
 
 }  // namespace ratanka

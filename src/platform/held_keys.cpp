@@ -4,6 +4,11 @@
 #include <QKeyEvent>
 
 namespace ratanka {
+namespace {
+
+bool isArrow(int key) { return key >= Qt::Key_Left && key <= Qt::Key_Down; }
+
+}  // namespace
 
 void HeldKeys::boxOpened() {
   if (openBoxes_++ == 0) QCoreApplication::instance()->installEventFilter(this);
@@ -20,6 +25,8 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
   const auto* const keyEvent = static_cast<QKeyEvent*>(event);
 
   if (openBoxes_ > 0) {
+    // An arrow that is held from before must not wander over the box's buttons.
+    if (isPress && keyEvent->isAutoRepeat() && isArrow(keyEvent->key())) return true;
     if (isPress) {
       down_.insert(keyEvent->key());  // a repeat closes a box, too
     } else if (!keyEvent->isAutoRepeat()) {

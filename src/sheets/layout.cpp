@@ -3,6 +3,7 @@
 #include "platform/forms.h"
 #include "platform/timer.h"
 #include "sheets/exercise_sheet.h"
+#include "sheets/rules/sums.h"
 
 namespace ratanka::sheets {
 namespace {
@@ -53,7 +54,7 @@ RowDesigns hiddenOperandRows() {
   // Which of a row's three labels holds the known operand; the right side has the opposite one.
   constexpr std::array<int, kRows> kKnownLabel{1, 5, 9, 15, 19, 21, 25, 31, 33};
   return eachRow([&](int row) -> RowDesign {
-    const bool hidesFirst = row == 2 || row == 4 || row == 5;
+    const bool hidesFirst = hádanka::hidesFirst(row);
     const bool judgedOnTheLeft = hidesFirst || row == 8;
     const int known = kKnownLabel.at(static_cast<std::size_t>(row - 1));
     const int sign = 4 * row - 2;

@@ -101,6 +101,19 @@ TEST_F(HodinyTest, ShowsTheHandsWhereTheTimeSays) {
   EXPECT_EQ(seen(0, 0), QColor(0, 255, 0));     // on top of all
 }
 
+TEST_F(HodinyTest, LaysTheHourOverTheMinuteAndTheSecondOverAll) {
+  forms.unload(names::Hodiny);
+  settings.values["Ciferka/Hands/mlHcolor"] = " 12";
+  settings.values["Ciferka/Hands/mlMcolor"] = " 9";
+  settings.values["Ciferka/Hands/mlScolor"] = " 10";
+  forms.show(names::Hodiny);
+  time.now = {12, 0, 30};
+  advance(100);
+  EXPECT_EQ(seen(0, -0.25), QColor(255, 0, 0));
+  EXPECT_EQ(seen(0, -0.75), QColor(0, 0, 255));
+  EXPECT_EQ(seen(0, 0.2), QColor(0, 255, 0));
+}
+
 TEST_F(HodinyTest, DrawsOnlyWhenTheSecondHasChanged) {
   time.now = {10, 0, 0};  // counts as drawn already
   Paints paints(*face());

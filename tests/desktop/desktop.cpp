@@ -204,7 +204,6 @@ void PrivateDesktop::drag(int button, ScreenPoint from, ScreenPoint to) const {
   };
   moveTo(from.x, from.y);
   xdotool("mousedown " + std::to_string(button));
-  moveTo(from.x + 1, from.y);  // a hand begins with a small step
   for (int step = 1; step <= 4; ++step) {
     moveTo(from.x + (to.x - from.x) * step / 4, from.y + (to.y - from.y) * step / 4);
   }

@@ -1,6 +1,7 @@
 #include "maze/bludisko.h"
 
 #include <QFile>
+#include <QPaintEvent>
 #include <QTemporaryDir>
 
 #include "form_driver.h"
@@ -92,6 +93,28 @@ TEST_F(BludiskoTest, LeavesBitesWhereItWalked) {
   EXPECT_NE(seen(2, 3).rgb(), kWhite);
 }
 
+// Collects what of a widget is painted.
+class Painted : public QObject {
+ public:
+  explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
+  QRegion region;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) region |= static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
+};
+
+TEST_F(BludiskoTest, PaintsOnlyWhatAStepHasChanged) {
+  open();
+  Painted painted(*control<QWidget>(names::Bludisko, "picMaze"));
+  walk({Qt::Key_Right});
+  EXPECT_TRUE(painted.region.contains(QRect(14, 14, 32, 32))) << "where it was";
+  EXPECT_TRUE(painted.region.contains(QRect(34, 14, 32, 32))) << "where it is";
+  EXPECT_FALSE(painted.region.contains(QPoint(100, 60)));
+}
+
 TEST_F(BludiskoTest, TellsTheWholeSecondsAndPlaysAgainOrGoes) {
   time.now = {23, 59, 58};
   open();
@@ -99,6 +122,8 @@ TEST_F(BludiskoTest, TellsTheWholeSecondsAndPlaysAgainOrGoes) {
   dialogs.expect(kEnd, {}, Dialogs::Answer::yes);
   walk({Qt::Key_Right, Qt::Key_Down, Qt::Key_Right});
   EXPECT_EQ(dialogs.shown.back().text, "Zvíťazil si  za 7 sekúnd.\r\nChceš hrať znova?");
+  EXPECT_EQ(dialogs.shown.back().icon, MessageBox::Icon::none);
+  EXPECT_EQ(dialogs.shown.back().buttons, MessageBox::Buttons::yesNo);
   EXPECT_EQ(seen(2, 1, {13, 5}).rgb(), kWhite) << "only the bite of the start";
   EXPECT_EQ(seen(1, 3, {10, 17}).rgb(), kWall);
   EXPECT_EQ(seen(3, 4).rgb(), kGoal);

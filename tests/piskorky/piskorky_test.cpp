@@ -154,6 +154,31 @@ TEST_F(PiškôrkyTest, LeavesAndComesBackWithItsCountersAtZero) {
   EXPECT_EQ(board(), ".........");
 }
 
+TEST_F(PiškôrkyTest, ClosedByItsFrameItStartsAnew) {
+  play(0, {3});
+  window(names::Piškôrky)->close();
+  settle();
+  open();
+  EXPECT_EQ(board(), ".........");
+  EXPECT_EQ(textOf("turn"), "X");
+}
+
+TEST_F(PiškôrkyTest, EachStrokeCrossesItsThreeCells) {
+  for (int index = 0; index < kLines; ++index) {
+    const QRect stroke =
+        control<QWidget>(names::Piškôrky, QString("Line5(%1)").arg(index))->geometry();
+    int crossed = 0;
+    for (const int cell : kLineCells.at(static_cast<std::size_t>(index))) {
+      const auto* const each = control<QLabel>(names::Piškôrky, QString("s(%1)").arg(cell));
+      crossed += stroke.intersects(each->geometry()) ? 1 : 0;
+      EXPECT_EQ(each->font().pixelSize(), 32);
+    }
+    EXPECT_EQ(crossed, 3) << index;
+    const bool isStraight = index < 6;
+    EXPECT_EQ(std::min(stroke.width(), stroke.height()) == 4, isStraight) << index;
+  }
+}
+
 TEST_F(PiškôrkyTest, GoingUnderItsOwnBoxIsHarmless) {
   for (const bool ends : {false, true}) {
     open();

@@ -123,6 +123,19 @@ TEST_F(DialogsTest, AKeyThatWasHeldBeforeItsBoxReachesNothingBeneath) {
   EXPECT_TRUE(released.empty());
 }
 
+TEST_F(DialogsTest, AHeldArrowDoesNotWanderOverTheButtons) {
+  whenOpen([](QDialog& box) {
+    const QWidget* const before = QApplication::focusWidget();
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier, {}, true);
+    QCoreApplication::sendEvent(box.windowHandle(), &repeat);
+    EXPECT_EQ(QApplication::focusWidget(), before);
+    press(Qt::Key_Right);
+    EXPECT_NE(QApplication::focusWidget(), before) << "a stroke of its own does";
+    box.reject();
+  });
+  boxes.message({.title = "x", .text = "y", .buttons = MessageBox::Buttons::yesNo});
+}
+
 TEST_F(DialogsTest, AFreshPressEndsTheWaitForALostRelease) {
   whenOpen([](QDialog&) { press(Qt::Key_Return); });
   boxes.message({.title = "x", .text = "y"});

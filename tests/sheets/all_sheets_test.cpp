@@ -63,6 +63,74 @@ TEST_F(AllSheetsTest, WordsAndColoursOfTheirOwn) {
   }
 }
 
+TEST_F(AllSheetsTest, PlacesAndColoursOfTheirOwn) {
+  const struct {
+    FormName name;
+    QRect mark, book;
+    QPoint reward;
+    int signSize;
+    QColor four;
+  } sheets[] = {
+      {names::Delenie, {128, 448, 49, 41}, {256, 456, 49, 36}, {320, 448}, 18, {255, 128, 255}},
+      {names::Malá, {128, 456, 41, 33}, {256, 456, 57, 36}, {328, 440}, 18, {255, 0, 0}},
+      {names::Veľká, {136, 456, 41, 33}, {256, 456, 41, 36}, {328, 448}, 18, {255, 128, 255}},
+      {names::Násobilka, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 13, {255, 128, 255}},
+      {names::Hádanka, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 18, {255, 0, 0}},
+      {names::Veľkéčísla, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 0, {255, 128, 255}},
+      {names::Zátvorky, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 0, {255, 128, 255}}};
+  for (const auto& sheet : sheets) {
+    SCOPED_TRACE(sheet.name.text());
+    openSheet(sheet.name);
+    for (int row = 1; row <= 3; ++row) answerRow(row, row == 1);
+    answerRow(9, false);  // 1 of 4
+    EXPECT_EQ(caption(39), "4");
+    EXPECT_EQ(label(39)->palette().color(QPalette::Window), sheet.four);
+    EXPECT_EQ(label(39)->geometry(), sheet.mark);
+    EXPECT_EQ(control<QWidget>(sheet_, "Picture3")->geometry(), sheet.book);
+    EXPECT_EQ(button(sheet_ == names::Násobilka ? "Command3" : "Command1")->pos(), sheet.reward);
+    if (sheet.signSize > 0) {
+      EXPECT_EQ(label(2)->font().pixelSize(), sheet.signSize);
+    }
+    leave();
+  }
+}
+
+TEST_F(AllSheetsTest, HádankaHasItsRowsInTwoOrders) {
+  openSheet(names::Hádanka);
+  const struct {
+    int box, known, sign, right, tick, cross;  // lefts in logical pixels, and labels' numbers
+  } rows[] = {{168, 1, 2, 3, 224, 216},    {48, 5, 6, 7, 96, 96},     {168, 9, 10, 11, 224, 216},
+              {48, 15, 14, 13, 96, 96},    {48, 19, 18, 17, 96, 96},  {168, 21, 22, 23, 224, 216},
+              {168, 25, 26, 27, 224, 216}, {168, 31, 30, 29, 96, 96}, {168, 33, 34, 35, 224, 216}};
+  int number = 0;
+  for (const auto& row : rows) {
+    ++number;
+    EXPECT_EQ(box(number)->x(), row.box) << number;
+    EXPECT_EQ(label(row.known)->x(), row.box == 48 ? 176 : 72) << number;
+    EXPECT_EQ(label(row.sign)->x(), 136) << number;
+    EXPECT_EQ(label(row.right)->x(), 312) << number;
+    const auto image = [&](int of) {
+      return control<QWidget>(sheet_, "Image" + QString::number(of))->x();
+    };
+    EXPECT_EQ(image(3 * number - 2), row.tick) << number;
+    EXPECT_EQ(image(3 * number - 1), row.cross) << number;
+  }
+}
+
+TEST_F(AllSheetsTest, TheClockComesWhenTheExamplesStand) {
+  std::string seen;
+  forms.setMaker(names::Hodiny, [&] {
+    // The sheet isn't shown yet, but it is laid out.
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+      if (widget->objectName() == "Malá")
+        seen = widget->findChild<QLabel*>("Label1")->text().toStdString();
+    }
+    return std::make_shared<PlainForm>(forms, names::Hodiny);
+  });
+  openSheet(names::Malá);
+  EXPECT_EQ(seen, "0");
+}
+
 TEST_F(AllSheetsTest, EveryCaptionFitsItsLabel) {
   const auto fits = [](const QLabel& label) {
     return label.fontMetrics().horizontalAdvance(label.text()) <= label.width();

@@ -28,9 +28,9 @@ Examples plainSums(Random& random, int numbers) {
   });
 }
 
-bool hidesFirst(int row) { return row == 2 || row == 4 || row == 5; }
-
 }  // namespace
+
+bool hádanka::hidesFirst(int row) { return row == 2 || row == 4 || row == 5; }
 
 Examples malá::ShowStart(Random& random) { return plainSums(random, 10); }
 

@@ -22,6 +22,8 @@ namespace hádanka {
 // Both numbers from 0 to 9, one of them hidden behind the box: the first one in the rows 2, 4 and
 // 5, the second one in the others. `Výsledok` is the hidden number.
 Examples ShowStart(Random& random);
+// Of a row from 1 to 9.
+bool hidesFirst(int row);
 }  // namespace hádanka
 
 }  // namespace ratanka::sheets
