@@ -220,7 +220,7 @@ std::optional<Places> freePoints(Places edge) {
   edge.resize(nearest(edge, kBellSide) + 1);
   const std::vector<Candidate> candidates = candidatesOf(edge);
 
-  constexpr std::size_t kLongest = 24 * kScale;  // a piece's, along the edge
+  constexpr std::size_t kLongest = std::size_t{24} * kScale;  // a piece's, along the edge
   constexpr double kNever = std::numeric_limits<double>::infinity();
   struct Way {
     double cost = kNever;

@@ -1,8 +1,10 @@
 #include "platform/controls.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QScreen>
 #include <algorithm>
 #include <cstdlib>
 
@@ -71,6 +73,13 @@ class Line : public QWidget {
 QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
   const int key = keyCode(event) == key::kEnter ? static_cast<int>(Qt::Key_Space) : event.key();
   return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
+}
+
+// Whether all of it could be on the screen at once. Only X11 tells where a window stands.
+bool isWithinScreen(const QWidget& widget) {
+  if (QGuiApplication::platformName() != "xcb") return true;
+  const QSize area = widget.screen()->virtualSize();
+  return widget.width() <= area.width() && widget.height() <= area.height();
 }
 
 }  // namespace
@@ -199,11 +208,22 @@ PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place
   return box;
 }
 
-Canvas::Canvas(QWidget* parent, Paint paint) : QWidget(parent), paint_(std::move(paint)) {}
+Canvas::Canvas(QWidget* parent, Paint paint) : QWidget(parent), paint_(std::move(paint)) {
+  window()->installEventFilter(this);
+}
 
 void Canvas::paintEvent(QPaintEvent* event) {
+  const QRect onScreen = screen()->virtualGeometry().translated(-mapToGlobal(QPoint()));
+  const QRect exposed = isWithinScreen(*this) ? event->rect() : event->rect() & onScreen;
+  if (exposed.isEmpty()) return;
   QPainter painter(this);
-  paint_(painter, event->rect());
+  painter.setClipRect(exposed);
+  paint_(painter, exposed);
+}
+
+bool Canvas::eventFilter(QObject*, QEvent* event) {
+  if (event->type() == QEvent::Move && !isWithinScreen(*this)) update();
+  return false;
 }
 
 Clicks::Clicks(QWidget& control) : QObject(&control) { control.installEventFilter(this); }

@@ -117,7 +117,8 @@ class Clicks : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 };
 
-// An area that the form paints whole.
+// An area that the form paints whole. Of one that is larger than the screen it is asked for what
+// the screen shows, and for more when the window moves.
 class Canvas : public QWidget {
  public:
   using Paint = std::function<void(QPainter&, const QRect& exposed)>;
@@ -126,6 +127,7 @@ class Canvas : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   Paint paint_;

@@ -1,5 +1,6 @@
 #include "sheets/rules/products.h"
 
+#include <cstddef>
 #include <vector>
 
 namespace ratanka::sheets {
@@ -24,7 +25,7 @@ std::vector<Example> allDivisions() {
 
 Examples divisionSet(int number) {
   const std::vector<Example> divisions = allDivisions();
-  auto next = divisions.begin() + number * kRows;
+  auto next = divisions.begin() + std::ptrdiff_t{kRows} * number;
   return nineRows([&] { return *next++; });
 }
 

@@ -27,6 +27,7 @@ std::int16_t GetPointY(Outline outline, int index) {
 
 std::vector<ScreenPoint> GetFormRegion(Outline outline, const RegionScale& scale) {
   std::vector<ScreenPoint> region;
+  region.reserve(outline.size());
   for (int i = 0; i < static_cast<int>(outline.size()); ++i) {
     region.push_back(
         {onScreen(GetPointX(outline, i), scale.ScaleX, scale.TwipsPerPixelX, scale.OffsetX),
