@@ -31,7 +31,12 @@ inline Point middle(const Area& area) {
   return {area.at.x + area.width / 2, area.at.y + area.height / 2};
 }
 
-enum class Key : unsigned long { enter = 0xff0d, backspace = 0xff08 };  // X's key symbols
+enum class Key : unsigned long {
+  enter = 0xff0d,
+  backspace = 0xff08,
+  left = 0xff51,
+  right = 0xff53
+};  // X's key symbols
 
 inline Key digitKey(char digit) { return static_cast<Key>(digit); }
 
