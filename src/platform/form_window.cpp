@@ -59,7 +59,8 @@ void FormWindow::paintEvent(QPaintEvent*) {
   paintBackground(painter);
   if (outline_.isEmpty() || !testAttribute(Qt::WA_TranslucentBackground)) return;
   QPainterPath outside;
-  outside.addRect(rect());
+  // At 150 % a window may end in the middle of a pixel: that one belongs to the outside, too.
+  outside.addRect(rect().adjusted(-1, -1, 1, 1));
   QPainterPath inside;
   inside.addPolygon(outline_);
   inside.closeSubpath();
