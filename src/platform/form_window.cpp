@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QWindow>
 
 #include "platform/controls.h"
@@ -52,21 +51,23 @@ void FormWindow::cutTo(const QPolygon& outline) {
   if (isSmooth) setAttribute(Qt::WA_TranslucentBackground);
   setAttribute(Qt::WA_OpaquePaintEvent, !isSmooth);
   setMask(isSmooth ? grown(region) : region);
+  if (!isSmooth) return;
+  QPainterPath all;
+  // At 150 % a window may end in the middle of a pixel: that one belongs to the outside, too.
+  all.addRect(rect().adjusted(-1, -1, 1, 1));
+  QPainterPath inside;
+  inside.addPolygon(outline);
+  inside.closeSubpath();
+  outside_ = all - inside;
 }
 
 void FormWindow::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   paintBackground(painter);
-  if (outline_.isEmpty() || !testAttribute(Qt::WA_TranslucentBackground)) return;
-  QPainterPath outside;
-  // At 150 % a window may end in the middle of a pixel: that one belongs to the outside, too.
-  outside.addRect(rect().adjusted(-1, -1, 1, 1));
-  QPainterPath inside;
-  inside.addPolygon(outline_);
-  inside.closeSubpath();
+  if (outside_.isEmpty()) return;
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-  painter.fillPath(outside - inside, Qt::black);
+  painter.fillPath(outside_, Qt::black);
 }
 
 void FormWindow::paintBackground(QPainter& painter) const {

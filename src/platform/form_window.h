@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPainterPath>
 #include <QPolygon>
 #include <QWidget>
 #include <optional>
@@ -35,6 +36,7 @@ class FormWindow : public QWidget {
   Form* form_;
   const FormDesign design_;
   QPolygon outline_;            // empty where the window isn't cut
+  QPainterPath outside_;        // what a smooth cut takes away; empty where there is none
   std::optional<QPoint> grip_;  // where the window is held, while we move it
 };
 

@@ -51,6 +51,17 @@ class HodinyTest : public FormTest {
     return face()->grab().toImage().pixelColor(qRound(119.5 + 59.75 * x), qRound(95 + 47.5 * y));
   }
 
+  // A time with the hour hand in red, the minute hand in blue and the second hand in green.
+  void showInColours(const TimeOfDay& now) {
+    forms.unload(names::Hodiny);
+    settings.values["Ciferka/Hands/mlHcolor"] = " 12";
+    settings.values["Ciferka/Hands/mlMcolor"] = " 9";
+    settings.values["Ciferka/Hands/mlScolor"] = " 10";
+    forms.show(names::Hodiny);
+    time.now = now;
+    advance(100);
+  }
+
   FakeClock time;
   FakeSettings settings;
 };
@@ -87,13 +98,7 @@ TEST_F(HodinyTest, AsksBeforeItHidesAndCountsOnMeanwhile) {
 }
 
 TEST_F(HodinyTest, ShowsTheHandsWhereTheTimeSays) {
-  forms.unload(names::Hodiny);
-  settings.values["Ciferka/Hands/mlHcolor"] = " 12";
-  settings.values["Ciferka/Hands/mlMcolor"] = " 9";
-  settings.values["Ciferka/Hands/mlScolor"] = " 10";
-  forms.show(names::Hodiny);
-  time.now = {9, 0, 15};
-  advance(100);
+  showInColours({9, 0, 15});
   EXPECT_EQ(seen(-0.25, 0), QColor(255, 0, 0));  // the hour to the left, half as long
   EXPECT_NE(seen(-0.6, 0), QColor(255, 0, 0));
   EXPECT_EQ(seen(0, -0.6), QColor(0, 0, 255));  // the minute up
@@ -102,13 +107,7 @@ TEST_F(HodinyTest, ShowsTheHandsWhereTheTimeSays) {
 }
 
 TEST_F(HodinyTest, LaysTheHourOverTheMinuteAndTheSecondOverAll) {
-  forms.unload(names::Hodiny);
-  settings.values["Ciferka/Hands/mlHcolor"] = " 12";
-  settings.values["Ciferka/Hands/mlMcolor"] = " 9";
-  settings.values["Ciferka/Hands/mlScolor"] = " 10";
-  forms.show(names::Hodiny);
-  time.now = {12, 0, 30};
-  advance(100);
+  showInColours({12, 0, 30});
   EXPECT_EQ(seen(0, -0.25), QColor(255, 0, 0));
   EXPECT_EQ(seen(0, -0.75), QColor(0, 0, 255));
   EXPECT_EQ(seen(0, 0.2), QColor(0, 255, 0));

@@ -129,6 +129,14 @@ TEST_F(MenuTest, SaysWhatEachButtonIsFor) {
   }
 }
 
+TEST_F(MenuTest, IsCutSmoothlyWhereTheDesktopBlendsWindows) {
+  start();
+  const QImage seen = window(names::Úvod)->grab().toImage();
+  EXPECT_EQ(seen.pixelColor(246, 100).alpha(), 0);
+  EXPECT_EQ(seen.pixelColor(100, 280).alpha(), 0);
+  EXPECT_EQ(seen.pixelColor(120, 14).alpha(), 255);
+}
+
 TEST_F(MenuTest, EachButtonHandsOverToItsSheet) {
   const std::pair<const char*, FormName> sheets[] = {
       {"Command1", names::Malá},    {"Command2", names::Veľká},      {"Command3", names::Násobilka},
