@@ -43,7 +43,7 @@ class FakeRandom : public Random {
 // Time that stands still until it is moved on.
 class FakeTicks : public Ticks {
  public:
-  std::unique_ptr<Source> every(std::chrono::milliseconds interval,
+  std::unique_ptr<Source> every(std::chrono::milliseconds interval, Precision,
                                 std::function<void()> tick) override {
     const int id = ++lastId_;
     sources_[id] = {now_ + interval, interval, std::move(tick)};

@@ -36,7 +36,7 @@ Hodiny::Hodiny(Forms& forms, Dialogs& dialogs, const Clock& clock, SettingsStore
 
 void Hodiny::build() {
   picBackGround_ =
-      addCanvas(window(), {.name = "picBackGround",
+      addCanvas(client(), {.name = "picBackGround",
                            .place = {0, 0, twips(kPicture.width), twips(kPicture.height)},
                            .paint = [this](QPainter& painter, const QRect&) { paint(painter); },
                            .accessibleName = "Hodiny"});

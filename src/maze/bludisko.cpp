@@ -67,12 +67,12 @@ Bludisko::Bludisko(Forms& forms, Dialogs& dialogs, const Clock& clock, std::stri
       file_(std::move(file)) {}
 
 void Bludisko::build() {
-  canvas_ = addCanvas(window(), {.name = "picMaze",
+  canvas_ = addCanvas(client(), {.name = "picMaze",
                                  .paint = [this](QPainter& painter,
                                                  const QRect& exposed) { paint(painter, exposed); },
                                  .isOpaque = true,
                                  .accessibleName = "Bludisko"});
-  addImage(window(), {.name = "picPlayer",
+  addImage(client(), {.name = "picPlayer",
                       .place = {0, 0, twips(kFigure), twips(kFigure)},
                       .picture = "maze-figure",
                       .visible = false});

@@ -1,7 +1,7 @@
 #include "piskorky/piskorky.h"
 
-#include "platform/controls.h"
 #include "platform/forms.h"
+#include "platform/shapes.h"
 #include "platform/text.h"
 #include "platform/timer.h"
 #include "shell/names.h"
@@ -70,7 +70,7 @@ void Piškôrky::buildBoard() {
     const auto column = static_cast<std::size_t>(index % 3);
     const auto row = static_cast<std::size_t>(index / 3);
     QLabel* const cell =
-        addLabel(window(), {.name = indexed("s", index),
+        addLabel(client(), {.name = indexed("s", index),
                             .place = {kCellLefts.at(column), kCellTops.at(row), 615, 615},
                             .type = {.points = 24},
                             .fore = kBlue,
@@ -81,19 +81,19 @@ void Piškôrky::buildBoard() {
   }
   int number = 0;
   for (const Stroke& stroke : kGrid) {
-    addLine(window(), line("Line" + QString::number(++number), stroke, kRed));
+    addLine(client(), line("Line" + QString::number(++number), stroke, kRed));
   }
   for (int index = 0; index < kLines; ++index) {
     const auto at = static_cast<std::size_t>(index);
     LineDesign design = line(indexed("Line5", index), kStrokes.at(at), kYellow);
     design.visible = false;
-    strokes_.at(at) = addLine(window(), design);
+    strokes_.at(at) = addLine(client(), design);
   }
 }
 
 void Piškôrky::buildPanel() {
   const auto button = [this](const char* name, int top, const char* caption) {
-    return addButton(window(), {.name = name,
+    return addButton(client(), {.name = name,
                                 .place = {2640, top, 1440, 450},
                                 .caption = caption,
                                 .type = {.points = 9.75}});
@@ -105,7 +105,7 @@ void Piškôrky::buildPanel() {
 
   const auto label = [this](int index, const Place& place, const char* caption, double points,
                             const Rgb& fore) {
-    return addLabel(window(), {.name = indexed("Label1", index),
+    return addLabel(client(), {.name = indexed("Label1", index),
                                .place = place,
                                .caption = caption,
                                .type = {.family = "Comic Sans MS", .points = points, .bold = true},
@@ -116,11 +116,11 @@ void Piškôrky::buildPanel() {
   label(1, {3300, 1440, 780, 360}, "Prehry", 9.75, kWhite);
   won_ = label(2, {2520, 1860, 690, 600}, "0", 18, kGreen);
   lost_ = label(3, {3300, 1860, 780, 600}, "0", 18, kRed);
-  addLine(window(), line("Line6", {3240, 1440, 3240, 2520}, kYellow));
+  addLine(client(), line("Line6", {3240, 1440, 3240, 2520}, kYellow));
 
   // Beside the window, where nobody sees them.
-  lblnum_ = addLabel(window(), {.name = "lblnum", .place = {4800, 120, 600, 300}, .caption = "1"});
-  turn_ = addLabel(window(), {.name = "turn", .place = {4800, 600, 600, 300}});
+  lblnum_ = addLabel(client(), {.name = "lblnum", .place = {4800, 120, 600, 300}, .caption = "1"});
+  turn_ = addLabel(client(), {.name = "turn", .place = {4800, 600, 600, 300}});
 }
 
 void Piškôrky::Form_Load() {

@@ -4,9 +4,8 @@
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QScreen>
-#include <algorithm>
-#include <cstdlib>
 
 #include "platform/keys.h"
 #include "platform/pictures.h"
@@ -15,18 +14,6 @@ namespace ratanka {
 namespace {
 
 constexpr int kBorder = 1;  // of a picture box, in logical pixels
-
-QRect rectangle(const Place& place) {
-  const int left = pixels(place.left);
-  const int top = pixels(place.top);
-  return {left, top, pixels(place.left + place.width) - left,
-          pixels(place.top + place.height) - top};
-}
-
-void setUp(QWidget& control, const QString& name, const Place& place) {
-  control.setObjectName(name);
-  control.setGeometry(rectangle(place));
-}
 
 // What a listener is told of a control that shows no text: its tooltip's words.
 QString spoken(const QString& tooltip) { return tooltip.simplified(); }
@@ -44,30 +31,26 @@ class Image : public QWidget {
   QString picture_;
 };
 
-// From one point of its own area to another.
-class Line : public QWidget {
+// Letters with a rim round each of them.
+class RimmedLabel : public QLabel {
  public:
-  Line(QWidget* parent, const QLine& line, int width, const Rgb& rgb)
-      : QWidget(parent), line_(line), width_(width), colour_(colour(rgb)) {
-    setAttribute(Qt::WA_TransparentForMouseEvents);
-  }
+  RimmedLabel(QWidget* parent, const Rgb& rim) : QLabel(parent), rim_(colour(rim)) {}
 
  protected:
   void paintEvent(QPaintEvent*) override {
+    constexpr qreal kRim = 6;  // half of it lies beneath the letter
+    QPainterPath letters;
+    letters.addText(0, 0, font(), text());
+    const QRectF box = letters.boundingRect();
     QPainter painter(this);
-    if (line_.dx() == 0 || line_.dy() == 0) {
-      painter.fillRect(rect(), colour_);
-      return;
-    }
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colour_, width_, Qt::SolidLine, Qt::RoundCap));
-    painter.drawLine(line_);
+    painter.translate(QRectF(rect()).center() - box.center());
+    painter.strokePath(letters, QPen(rim_, kRim, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.fillPath(letters, palette().windowText());
   }
 
  private:
-  QLine line_;
-  int width_;
-  QColor colour_;
+  QColor rim_;
 };
 
 QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
@@ -84,8 +67,20 @@ bool isWithinScreen(const QWidget& widget) {
 
 }  // namespace
 
+QRect rectangle(const Place& place) {
+  const int left = pixels(place.left);
+  const int top = pixels(place.top);
+  return {left, top, pixels(place.left + place.width) - left,
+          pixels(place.top + place.height) - top};
+}
+
+void setUp(QWidget& control, const QString& name, const Place& place) {
+  control.setObjectName(name);
+  control.setGeometry(rectangle(place));
+}
+
 QLabel* addLabel(QWidget& form, const LabelDesign& design) {
-  auto* const label = new QLabel(&form);
+  auto* const label = design.rim ? new RimmedLabel(&form, *design.rim) : new QLabel(&form);
   setUp(*label, design.name, design.place);
   label->setTextFormat(Qt::PlainText);
   label->setText(design.caption);
@@ -165,28 +160,6 @@ QWidget* addImage(QWidget& form, const ImageDesign& design) {
   return image;
 }
 
-QWidget* addLine(QWidget& form, const LineDesign& design) {
-  const QPoint from(pixels(design.x1), pixels(design.y1));
-  const QPoint to(pixels(design.x2), pixels(design.y2));
-  const int before = design.width / 2;
-  QRect area = QRect(from, to).normalized();
-  if (from.y() == to.y()) {
-    area = {std::min(from.x(), to.x()), from.y() - before, std::abs(to.x() - from.x()),
-            design.width};
-  } else if (from.x() == to.x()) {
-    area = {from.x() - before, std::min(from.y(), to.y()), design.width,
-            std::abs(to.y() - from.y())};
-  } else {
-    area.adjust(-design.width, -design.width, design.width, design.width);
-  }
-  auto* const line = new Line(&form, QLine(from - area.topLeft(), to - area.topLeft()),
-                              design.width, design.colour);
-  line->setObjectName(design.name);
-  line->setGeometry(area);
-  line->setVisible(design.visible);
-  return line;
-}
-
 void PictureBox::paint(std::function<void(QPainter&)> painting) {
   painting_ = std::move(painting);
   update();
@@ -226,9 +199,13 @@ bool Canvas::eventFilter(QObject*, QEvent* event) {
   return false;
 }
 
-Clicks::Clicks(QWidget& control) : QObject(&control) { control.installEventFilter(this); }
+Clicks::Clicks(QWidget& control) : QObject(&control) {
+  control.setMouseTracking(true);
+  control.installEventFilter(this);
+}
 
 bool Clicks::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::MouseMove) emit pointerMoved();
   const bool isRelease = event->type() == QEvent::MouseButtonRelease;
   if (!isRelease && event->type() != QEvent::MouseButtonPress) return false;
   const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();

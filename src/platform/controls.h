@@ -20,6 +20,11 @@ inline QColor colour(const Rgb& rgb) { return {rgb.red, rgb.green, rgb.blue}; }
 
 inline constexpr Rgb kInkColour{0x22, 0x30, 0x4a};
 
+// In logical pixels.
+QRect rectangle(const Place& place);
+// Names a control and puts it in its place.
+void setUp(QWidget& control, const QString& name, const Place& place);
+
 struct LabelDesign {
   QString name;
   Place place;
@@ -27,6 +32,7 @@ struct LabelDesign {
   Type type{};
   Rgb fore = kInkColour;
   std::optional<Rgb> back{};  // none: what lies behind shows through
+  std::optional<Rgb> rim{};   // round each letter, where what lies behind would swallow it
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignTop;
   QString tooltip{};
 };
@@ -73,19 +79,6 @@ struct ImageDesign {
 };
 QWidget* addImage(QWidget& form, const ImageDesign& design);
 
-// A straight line; the mouse doesn't feel it.
-struct LineDesign {
-  QString name;
-  int x1 = 0;  // twips
-  int y1 = 0;
-  int x2 = 0;
-  int y2 = 0;
-  int width = 1;  // logical pixels
-  Rgb colour = kInkColour;
-  bool visible = true;
-};
-QWidget* addLine(QWidget& form, const LineDesign& design);
-
 // A plain white area with a thin border, painted by the form inside it.
 class PictureBox : public QWidget {
  public:
@@ -102,8 +95,8 @@ class PictureBox : public QWidget {
 };
 PictureBox* addPictureBox(QWidget& form, const QString& name, const Place& place);
 
-// Feels the clicks of any mouse button on a control that has none of its own. Keeps them from the
-// form beneath.
+// Feels the clicks of any mouse button on a control that has none of its own, and the pointer that
+// moves over it. Keeps the clicks from the form beneath.
 class Clicks : public QObject {
   Q_OBJECT
 
@@ -112,6 +105,7 @@ class Clicks : public QObject {
 
  signals:
   void clicked();
+  void pointerMoved();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;

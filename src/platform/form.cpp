@@ -21,6 +21,12 @@ Form::~Form() {
 
 QWidget& Form::window() const { return *window_; }
 
+QWidget& Form::client() const { return window_->client(); }
+
+QMenuBar& Form::menuBar() const { return window_->menuBar(); }
+
+bool Form::isMinimised() const { return isLoaded() && window_->isMinimized(); }
+
 void Form::cutTo(const std::vector<ScreenPoint>& outline) {
   QPolygon polygon;
   for (const ScreenPoint& point : outline) polygon << QPoint(point.x, point.y);
@@ -37,6 +43,7 @@ void Form::load() {
   connections_ = std::make_unique<QObject>();
   window_ = new FormWindow(*this, design_);
   build();
+  window_->fitMenuBar();
   Form_Load();
 }
 
@@ -49,15 +56,38 @@ void Form::unload() {
   connections_.reset();
   FormWindow* const window = std::exchange(window_, nullptr);
   window->leaveForm();
-  for (Timer* const timer : window->findChildren<Timer*>()) timer->setEnabled(false);
+  for (Timer* const timer : std::exchange(timers_, {})) timer->setEnabled(false);
   window->hide();
+  forms_.formLeft(*this);
   leaving_.push_back(window);
 }
 
 void Form::bringUp() {
+  const bool wasVisible = window_->isVisible();
+  for (Timer* const timer : timers_) timer->setEasy(false);
+  if (window_->isMinimized()) window_->showNormal();
   window_->show();
   window_->raise();
   if (design_.takesKeyboard) window_->activateWindow();
+  const HandlerScope scope(*this);
+  if (!wasVisible) Form_Resize();
+  if (design_.takesKeyboard && isLoaded()) forms_.formBecameActive(*this);
+}
+
+void Form::runModally() {
+  FormWindow* const window = window_;
+  const HandlerScope scope(*this);
+  window->setModal(true);
+  bringUp();
+  window->waitUntilHidden();
+  window->setModal(false);
+}
+
+void Form::hide() {
+  if (!isLoaded()) return;
+  for (Timer* const timer : timers_) timer->setEasy(true);
+  window_->hide();
+  forms_.formLeft(*this);
 }
 
 void Form::giveFocus(QWidget& control) {
@@ -85,14 +115,14 @@ Timer* Form::timer(const QString& name, int milliseconds, std::function<void()> 
     result->setTicking(false);
   };
   QObject::connect(result, &Timer::ticked, connections_.get(), tick);
+  timers_.push_back(result);
   result->setObjectName(name);
   result->setInterval(milliseconds);
   return result;
 }
 
 void Form::deliverTicks() {
-  if (!isLoaded()) return;
-  for (Timer* const timer : window_->findChildren<Timer*>()) timer->deliver();
+  for (Timer* const timer : timers_) timer->deliver();
 }
 
 void Form::letGo() {

@@ -10,6 +10,7 @@
 #include "platform/form_name.h"
 #include "platform/units.h"
 
+class QMenuBar;
 class QWidget;
 
 namespace ratanka {
@@ -29,6 +30,8 @@ struct FormDesign {
   QString picture{};        // drawn in the upper left corner; none where empty
   PixelSize pictureSize{};  // in logical pixels
   bool takesKeyboard = true;
+  bool hasMenu = false;  // a bar of menus above the client area
+  bool canMinimise = true;
 };
 
 // One form of the program: its variables live in the object, its controls in a window that comes
@@ -47,6 +50,9 @@ class Form : public std::enable_shared_from_this<Form> {
   bool isLoaded() const { return window_ != nullptr; }
   // Only of a loaded form.
   QWidget& window() const;
+  // Where its controls lie: all of the window but the bar of menus.
+  QWidget& client() const;
+  bool isMinimised() const;
 
  protected:
   Form(Forms& forms, FormDesign design);
@@ -55,8 +61,17 @@ class Form : public std::enable_shared_from_this<Form> {
   virtual void build() = 0;
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
-  // A key goes down on the form, by the system's code (platform/keys.h); a held key repeats.
+  // The form became the active one of the program, where another of its forms was before. Coming
+  // back from another program or from a box isn't that.
+  virtual void Form_Activate() {}
+  // The window was first shown, minimised, or brought back.
+  virtual void Form_Resize() {}
+  // A key goes down on the form, by the system's code (platform/keys.h); a held key repeats. The
+  // form sees it before the control that has the keyboard does.
   virtual void Form_KeyDown(int /*keyCode*/) {}
+  virtual void Form_KeyUp(int /*keyCode*/) {}
+  // Another window, or a menu, takes the keyboard: keys that are held now may come up unseen.
+  virtual void keyboardLeaves() {}
 
   Forms& forms() const { return forms_; }
 
@@ -78,6 +93,9 @@ class Form : public std::enable_shared_from_this<Form> {
   // A timer of this form, off at first. Its tick is an event between other events: one that comes
   // while a handler of this form runs, or stands at a box, waits for the handler's end.
   Timer* timer(const QString& name, int milliseconds, std::function<void()> handler);
+
+  // The bar of a form that has menus; platform/menus.h fills it.
+  QMenuBar& menuBar() const;
 
   // Cuts the window to an outline in logical pixels, filled by the even-odd rule, and lets it be
   // dragged by its background with any mouse button. Only while the form loads.
@@ -109,6 +127,8 @@ class Form : public std::enable_shared_from_this<Form> {
   void load();
   void unload();
   void bringUp();
+  void runModally();
+  void hide();
   void deliverTicks();
   void letGo();
 
@@ -117,6 +137,7 @@ class Form : public std::enable_shared_from_this<Form> {
   FormWindow* window_ = nullptr;
   std::unique_ptr<QObject> connections_;  // what every handler hangs on; gone, none can start
   std::vector<FormWindow*> leaving_;      // unloaded windows that a running handler may stand on
+  std::vector<Timer*> timers_;
   int handlersRunning_ = 0;
   bool isUnloading_ = false;
 };

@@ -1,13 +1,16 @@
 #include "platform/form_window.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QGuiApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
+#include <QMenuBar>
 #include <QPainter>
 #include <QWindow>
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
+#include "platform/forms.h"
 #include "platform/keys.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
@@ -38,10 +41,48 @@ FormWindow::FormWindow(Form& form, const FormDesign& design) : form_(&form), des
   Qt::WindowFlags flags = Qt::Window;
   if (!design.hasBorder) flags |= Qt::FramelessWindowHint;
   if (!design.takesKeyboard) flags |= Qt::WindowDoesNotAcceptFocus;
+  if (!design.canMinimise) {
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+             Qt::WindowCloseButtonHint;
+  }
   setWindowFlags(flags);
   setAttribute(Qt::WA_ShowWithoutActivating, !design.takesKeyboard);
   setFixedSize(pixels(design.width), pixels(design.height));
   setAttribute(Qt::WA_OpaquePaintEvent);
+  if (design.hasMenu) {
+    menuBar_ = new QMenuBar(this);
+    menuBar_->setNativeMenuBar(false);
+    client_ = new QWidget(this);
+    client_->setFixedSize(size());
+  }
+}
+
+void FormWindow::fitMenuBar() {
+  if (menuBar_ == nullptr) return;
+  const int height = menuBar_->sizeHint().height();
+  menuBar_->setGeometry(0, 0, client_->width(), height);
+  client_->move(0, height);
+  setFixedSize(client_->width(), height + client_->height());
+  for (QMenu* const menu : menuBar_->findChildren<QMenu*>()) {
+    connect(menu, &QMenu::aboutToShow, this, [this] { tell(&Form::keyboardLeaves); });
+  }
+}
+
+void FormWindow::setModal(bool modal) {
+  setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+  if (!modal) return;
+  create();
+  const QWidget* const beneath = QApplication::activeWindow();
+  const bool hasBeneath = beneath != nullptr && beneath != this;
+  windowHandle()->setTransientParent(hasBeneath ? beneath->windowHandle() : nullptr);
+}
+
+void FormWindow::waitUntilHidden() {
+  if (!isVisible()) return;
+  QEventLoop loop;
+  waiting_ = &loop;
+  loop.exec();
+  waiting_ = nullptr;
 }
 
 void FormWindow::cutTo(const QPolygon& outline) {
@@ -70,13 +111,14 @@ void FormWindow::paintEvent(QPaintEvent*) {
   painter.fillPath(outside_, Qt::black);
 }
 
-void FormWindow::paintBackground(QPainter& painter) const {
+void FormWindow::paintBackground(QPainter& painter) {
+  const QPoint origin = client_ == nullptr ? QPoint() : client_->pos();
   const QSize size(design_.pictureSize.width, design_.pictureSize.height);
   if (size.width() < width() || size.height() < height()) {
     painter.fillRect(rect(), colour(design_.back));
   }
   if (!design_.picture.isEmpty()) {
-    painter.drawPixmap(0, 0, picture(design_.picture, size, devicePixelRatioF()));
+    painter.drawPixmap(origin, picture(design_.picture, size, devicePixelRatioF()));
   }
 }
 
@@ -88,10 +130,49 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   form_->unload();
 }
 
-void FormWindow::keyPressEvent(QKeyEvent* event) {
+void FormWindow::showEvent(QShowEvent*) { windowHandle()->installEventFilter(this); }
+
+void FormWindow::hideEvent(QHideEvent* event) {
+  if (waiting_ != nullptr && !event->spontaneous()) waiting_->quit();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange) return;
+  const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+  if (before.testFlag(Qt::WindowMinimized) != isMinimized()) tell(&Form::Form_Resize);
+}
+
+bool FormWindow::event(QEvent* event) {
+  const bool isHeard = isVisible() && design_.takesKeyboard;
+  if (isHeard && event->type() == QEvent::WindowDeactivate) tell(&Form::keyboardLeaves);
+  if (isHeard && event->type() == QEvent::WindowActivate && form_ != nullptr) {
+    form_->forms_.formBecameActive(*form_);
+  }
+  return QWidget::event(event);
+}
+
+bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
+  const bool isPress = event->type() == QEvent::KeyPress;
+  if (watched != windowHandle() || (!isPress && event->type() != QEvent::KeyRelease)) return false;
+  // A menu that is open has the keyboard for itself.
+  if (form_ == nullptr || form_->hasEnded() || QApplication::activePopupWidget() != nullptr) {
+    return false;
+  }
+  const auto& keyEvent = *static_cast<QKeyEvent*>(event);
+  const Form::HandlerScope scope(*form_);
+  if (isPress) {
+    form_->Form_KeyDown(keyCode(keyEvent));
+  } else if (!keyEvent.isAutoRepeat()) {
+    form_->Form_KeyUp(keyCode(keyEvent));
+  }
+  return false;
+}
+
+void FormWindow::tell(void (Form::*happening)()) {
   if (form_ == nullptr || form_->hasEnded()) return;
   const Form::HandlerScope scope(*form_);
-  form_->Form_KeyDown(keyCode(*event));
+  (form_->*happening)();
 }
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {

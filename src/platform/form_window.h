@@ -1,11 +1,15 @@
 #pragma once
 
 #include <QPainterPath>
+#include <QPointer>
 #include <QPolygon>
 #include <QWidget>
 #include <optional>
 
 #include "platform/form.h"
+
+class QEventLoop;
+class QMenuBar;
 
 namespace ratanka {
 
@@ -22,19 +26,36 @@ class FormWindow : public QWidget {
   // smooth; elsewhere the region alone cuts.
   void cutTo(const QPolygon& outline);
 
+  QWidget& client() { return client_ == nullptr ? *this : *client_; }
+  QMenuBar& menuBar() { return *menuBar_; }
+  // Once the menus are there: the window grows by the height of their bar.
+  void fitMenuBar();
+
+  // Stops the child from using any other window of the program while this one is to be seen.
+  void setModal(bool modal);
+  void waitUntilHidden();
+
  protected:
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:
-  void paintBackground(QPainter& painter) const;
+  void paintBackground(QPainter& painter);
+  void tell(void (Form::*happening)());
 
   Form* form_;
   const FormDesign design_;
+  QMenuBar* menuBar_ = nullptr;  // these two only where there are menus
+  QWidget* client_ = nullptr;
+  QEventLoop* waiting_ = nullptr;
   QPolygon outline_;            // empty where the window isn't cut
   QPainterPath outside_;        // what a smooth cut takes away; empty where there is none
   std::optional<QPoint> grip_;  // where the window is held, while we move it

@@ -16,19 +16,12 @@ Forms::~Forms() {
 
 void Forms::setMaker(FormName name, Maker maker) { makers_[name] = std::move(maker); }
 
-void Forms::show(FormName name) {
-  if (isEnding_) return;
-  const std::shared_ptr<Form> form = findOrMake(name);
-  if (!form) return;
-  handlerStarted();
-  form->load();
-  // A form may take itself down while it loads.
-  if (form->isLoaded() && !isEnding_) form->bringUp();
-  handlerReturned();
-}
+void Forms::show(FormName name) { loadAnd(name, &Form::bringUp); }
+
+void Forms::showModal(FormName name) { loadAnd(name, &Form::runModally); }
 
 void Forms::hide(FormName name) {
-  if (const auto form = find(name); form && form->isLoaded()) form->window().hide();
+  if (const auto form = find(name)) form->hide();
 }
 
 void Forms::unload(FormName name) {
@@ -58,6 +51,28 @@ void Forms::endProgram() {
 std::shared_ptr<Form> Forms::find(FormName name) const {
   const auto form = forms_.find(name);
   return form == forms_.end() ? nullptr : form->second;
+}
+
+void Forms::loadAnd(FormName name, void (Form::*display)()) {
+  if (isEnding_) return;
+  const std::shared_ptr<Form> form = findOrMake(name);
+  if (!form) return;
+  handlerStarted();
+  form->load();
+  // A form may take itself down while it loads.
+  if (form->isLoaded() && !isEnding_) ((*form).*display)();
+  handlerReturned();
+}
+
+void Forms::formBecameActive(Form& form) {
+  if (isEnding_ || active_ == &form) return;
+  active_ = &form;
+  const Form::HandlerScope scope(form);
+  form.Form_Activate();
+}
+
+void Forms::formLeft(const Form& form) {
+  if (active_ == &form) active_ = nullptr;
 }
 
 std::shared_ptr<Form> Forms::findOrMake(FormName name) {

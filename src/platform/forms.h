@@ -33,6 +33,10 @@ class Forms {
 
   // Makes the form where there is none, loads it where it isn't loaded, and brings it up in front.
   void show(FormName name);
+  // The same, and waits until the form is hidden or unloaded; no other window of the program can be
+  // used meanwhile.
+  void showModal(FormName name);
+  // A hidden form's timers tick on, a few times a second at most.
   void hide(FormName name);
   void unload(FormName name);
   // Unloads first what is still loaded.
@@ -45,16 +49,21 @@ class Forms {
 
  private:
   friend class Form;
+  friend class FormWindow;
 
   std::shared_ptr<Form> find(FormName name) const;
   bool anyVisible() const;
   std::shared_ptr<Form> findOrMake(FormName name);
   void handlerStarted() { ++handlersRunning_; }
   void handlerReturned();
+  void loadAnd(FormName name, void (Form::*display)());
+  void formBecameActive(Form& form);
+  void formLeft(const Form& form);
 
   Ticks& ticks_;
   std::map<FormName, Maker> makers_;
   std::map<FormName, std::shared_ptr<Form>> forms_;
+  const Form* active_ = nullptr;  // the form that had the keyboard last
   int handlersRunning_ = 0;
   bool isEnding_ = false;
 };

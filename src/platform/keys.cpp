@@ -38,6 +38,8 @@ int codeOfSign(int sign) {
       return key::kTab;
     case Qt::Key_Clear:
       return key::kClear;
+    case Qt::Key_Control:
+      return key::kControl;
     case Qt::Key_Escape:
       return key::kEscape;
     case Qt::Key_Space:

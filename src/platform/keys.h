@@ -14,6 +14,7 @@ inline constexpr int kBackspace = 8;
 inline constexpr int kTab = 9;
 inline constexpr int kClear = 12;
 inline constexpr int kEnter = 13;  // both Enter keys
+inline constexpr int kControl = 17;
 inline constexpr int kEscape = 27;
 inline constexpr int kSpace = 32;
 inline constexpr int kLeft = 37;

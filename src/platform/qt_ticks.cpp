@@ -9,8 +9,11 @@ constexpr std::chrono::milliseconds kPreciseBelow{20};
 
 class QtSource : public Ticks::Source {
  public:
-  QtSource(std::chrono::milliseconds interval, std::function<void()> tick) : timer_(new QTimer) {
-    timer_->setTimerType(interval < kPreciseBelow ? Qt::PreciseTimer : Qt::CoarseTimer);
+  QtSource(std::chrono::milliseconds interval, QtTicks::Precision precision,
+           std::function<void()> tick)
+      : timer_(new QTimer) {
+    const bool isPrecise = interval < kPreciseBelow || precision == QtTicks::Precision::fine;
+    timer_->setTimerType(isPrecise ? Qt::PreciseTimer : Qt::CoarseTimer);
     QObject::connect(timer_, &QTimer::timeout, std::move(tick));
     timer_->start(interval);
   }
@@ -32,8 +35,8 @@ class QtSource : public Ticks::Source {
 }  // namespace
 
 std::unique_ptr<Ticks::Source> QtTicks::every(std::chrono::milliseconds interval,
-                                              std::function<void()> tick) {
-  return std::make_unique<QtSource>(interval, std::move(tick));
+                                              Precision precision, std::function<void()> tick) {
+  return std::make_unique<QtSource>(interval, precision, std::move(tick));
 }
 
 }  // namespace ratanka

@@ -7,7 +7,7 @@ namespace ratanka {
 // Ticks of the event loop; intervals under 20 ms are precise.
 class QtTicks : public Ticks {
  public:
-  std::unique_ptr<Source> every(std::chrono::milliseconds interval,
+  std::unique_ptr<Source> every(std::chrono::milliseconds interval, Precision precision,
                                 std::function<void()> tick) override;
 };
 

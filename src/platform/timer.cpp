@@ -1,6 +1,13 @@
 #include "platform/timer.h"
 
+#include <algorithm>
+
 namespace ratanka {
+namespace {
+
+constexpr int kEasyMilliseconds = 250;
+
+}  // namespace
 
 Timer::Timer(QObject* parent, Ticks& ticks) : QObject(parent), ticks_(ticks) {}
 
@@ -16,11 +23,25 @@ void Timer::setEnabled(bool enabled) {
   restart();
 }
 
+void Timer::setPrecise() {
+  isPrecise_ = true;
+  restart();
+}
+
+void Timer::setEasy(bool easy) {
+  if (easy == isEasy_) return;
+  isEasy_ = easy;
+  if (interval_ < kEasyMilliseconds) restart();
+}
+
 void Timer::restart() {
   isPostponed_ = false;
   source_.reset();
   if (enabled_ && interval_ > 0) {
-    source_ = ticks_.every(std::chrono::milliseconds(interval_), [this] { emit ticked(); });
+    const int interval = isEasy_ ? std::max(interval_, kEasyMilliseconds) : interval_;
+    const auto precision = isPrecise_ && !isEasy_ ? Ticks::Precision::fine : Ticks::Precision::any;
+    source_ =
+        ticks_.every(std::chrono::milliseconds(interval), precision, [this] { emit ticked(); });
   }
 }
 

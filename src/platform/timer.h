@@ -26,6 +26,10 @@ class Timer : public QObject {
   // An impatient timer ticks even while its form stands at a box.
   bool isImpatient() const { return isImpatient_; }
   void setImpatient() { isImpatient_ = true; }
+  // A precise timer keeps its interval to the millisecond; all below 20 ms do.
+  void setPrecise();
+  // An easy timer ticks a few times a second at most.
+  void setEasy(bool easy);
   // While its own tick is handled.
   bool isTicking() const { return isTicking_; }
   void setTicking(bool ticking) { isTicking_ = ticking; }
@@ -47,6 +51,8 @@ class Timer : public QObject {
   bool enabled_ = false;
   bool isPostponed_ = false;
   bool isImpatient_ = false;
+  bool isPrecise_ = false;
+  bool isEasy_ = false;
   bool isTicking_ = false;
 };
 

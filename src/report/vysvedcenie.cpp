@@ -1,8 +1,8 @@
 #include "report/vysvedcenie.h"
 
-#include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
+#include "platform/shapes.h"
 #include "shell/names.h"
 #include "shell/rules/mark.h"
 #include "shell/rules/shape.h"
@@ -54,20 +54,20 @@ void Vysvedčenie::build() {
   int top = kFirstTop;
   for (std::size_t number = 0; number < kLines.size(); ++number) {
     const Line& line = kLines.at(number);
-    addLabel(window(), {.name = line.titleName,
+    addLabel(client(), {.name = line.titleName,
                         .place = {kTitleLeft, top, kMarkLeft - kTitleLeft, kLineHeight},
                         .caption = line.title,
                         .type = {.points = 13.5, .bold = true, .italic = true},
                         .fore = kBlue,
                         .align = Qt::AlignLeft | Qt::AlignVCenter});
-    marks_.at(number) = addLabel(window(), {.name = line.markName,
+    marks_.at(number) = addLabel(client(), {.name = line.markName,
                                             .place = {kMarkLeft, top, 750, kLineHeight},
                                             .caption = "0",
                                             .type = {.points = 17.25, .bold = true},
                                             .align = Qt::AlignCenter});
     if (number > 0) {
       const int between = top - (kPitch - kLineHeight) / 2;
-      addLine(window(), {.name = "Line" + QString::number(number),
+      addLine(client(), {.name = "Line" + QString::number(number),
                          .x1 = kTitleLeft,
                          .y1 = between,
                          .x2 = kLineRight,
@@ -77,7 +77,7 @@ void Vysvedčenie::build() {
     top += kPitch;
   }
   Button* const ok =
-      addButton(window(), {.name = "Command1", .place = {1950, 6225, 1500, 450}, .caption = "OK"});
+      addButton(client(), {.name = "Command1", .place = {1950, 6225, 1500, 450}, .caption = "OK"});
   on(ok, &Button::clicked, [this] { Command1_Click(); });
 }
 

@@ -1,6 +1,7 @@
 // Where everything on a sheet stands, from top to bottom.
 
 #include "platform/forms.h"
+#include "platform/shapes.h"
 #include "platform/timer.h"
 #include "sheets/exercise_sheet.h"
 #include "sheets/rules/sums.h"
@@ -82,14 +83,14 @@ void ExerciseSheet::buildRow(int row) {
   const int top = kFirstRowTop + kRowPitch * (row - 1);
   const auto exampleLabel = [this, top](const RowLabel& label, const Type& type) -> QLabel* {
     if (label.number == 0) return nullptr;
-    return addLabel(window(), {.name = numbered("Label", label.number),
+    return addLabel(client(), {.name = numbered("Label", label.number),
                                .place = {label.left, top, label.width, kRowHeight},
                                .type = type,
                                .align = Qt::AlignLeft | Qt::AlignBottom});
   };
   const auto image = [this, row, top](int part, int left, const char* picture,
                                       const QString& spoken) {
-    return addImage(window(), {.name = numbered("Image", 3 * row + part),
+    return addImage(client(), {.name = numbered("Image", 3 * row + part),
                                .place = imageAt(left, top - kImageRise),
                                .picture = picture,
                                .visible = false,
@@ -102,20 +103,20 @@ void ExerciseSheet::buildRow(int row) {
   made.second = exampleLabel(design.second, {.points = 12});
   for (const int line : {1, 2}) {
     const int y = top + 120 * line;
-    addLine(window(), {.name = numbered("Line", 2 * (row - 1) + line),
+    addLine(client(), {.name = numbered("Line", 2 * (row - 1) + line),
                        .x1 = design.equalsLeft,
                        .y1 = y,
                        .x2 = design.equalsLeft + kEqualsWidth,
                        .y2 = y,
                        .width = 2});
   }
-  made.box = addTextBox(window(), {.name = numbered("Text", row),
+  made.box = addTextBox(client(), {.name = numbered("Text", row),
                                    .place = {design.boxLeft, top, design.boxWidth, kRowHeight},
                                    .maxLength = kAnswerLength,
                                    .type = {.points = 9.75, .bold = true}});
   made.tick = image(-2, design.tickLeft, "tick", "Správne");
   made.cross = image(-1, design.crossLeft, "cross", "Nesprávne");
-  made.result = addLabel(window(), {.name = numbered("Label", 4 * row),
+  made.result = addLabel(client(), {.name = numbered("Label", 4 * row),
                                     .place = {kResultLeft, top, 705, kRowHeight},
                                     .type = {.points = 12, .bold = true},
                                     .align = Qt::AlignLeft | Qt::AlignBottom});
@@ -127,7 +128,7 @@ void ExerciseSheet::buildRow(int row) {
 void ExerciseSheet::buildShyButtons() {
   std::vector<Button*> buttons;
   for (const ShyButton& shy : design_.shyButtons) {
-    buttons.push_back(addButton(window(), {.name = shy.name,
+    buttons.push_back(addButton(client(), {.name = shy.name,
                                            .place = {shy.left, 5760, 1095, 375},
                                            .caption = "Kalkulačka",
                                            .visible = shy.visible,
@@ -144,11 +145,11 @@ void ExerciseSheet::buildStrip() {
   const auto image = [this](const char* name, int left, int top, const char* picture,
                             const char* spoken) {
     addImage(
-        window(),
+        client(),
         {.name = name, .place = imageAt(left, top), .picture = picture, .accessibleName = spoken});
   };
   const auto counter = [this](const char* name, int left, const Rgb& fore, const char* tooltip) {
-    return addLabel(window(), {.name = name,
+    return addLabel(client(), {.name = name,
                                .place = {left, 6960, 360, 240},
                                .caption = "0",
                                .type = {.points = 9, .bold = true},
@@ -161,7 +162,7 @@ void ExerciseSheet::buildStrip() {
   image("Image29", 2760, 6360, "face-sad", "Nesprávne odpovede");
   image("Image31", 3120, 6840, "cross", "Nesprávne");
   nesprávne_ = counter("Label38", 2880, design_.wrongColour, " Nevypočítaných príkladov ");
-  mark_ = addLabel(window(), {.name = "Label39",
+  mark_ = addLabel(client(), {.name = "Label39",
                               .place = design_.markPlace,
                               .type = {.family = "Courier New", .points = 27.75, .bold = true},
                               .back = kWhite,
@@ -170,14 +171,14 @@ void ExerciseSheet::buildStrip() {
                                                                       : " Priebežné hodnotenie "});
   // The mark is higher than its field and a digit has no descender: puts it in the middle.
   mark_->setContentsMargins(0, 4, 0, 0);
-  book_ = addPictureBox(window(), "Picture3", {3840, 6840, design_.bookWidth, 540});
+  book_ = addPictureBox(client(), "Picture3", {3840, 6840, design_.bookWidth, 540});
   book_->setAccessibleName("Kniha");
 }
 
 void ExerciseSheet::buildButtons() {
   const auto& [rewardName, freshName, backName] = design_.buttons;
   const RewardDesign& reward = design_.reward;
-  const auto button = [this](const ButtonDesign& design) { return addButton(window(), design); };
+  const auto button = [this](const ButtonDesign& design) { return addButton(client(), design); };
   reward_ = button({.name = rewardName,
                     .place = {reward.left, reward.top, kButtonSide, kButtonSide},
                     .tooltip = reward.tooltip,

@@ -55,18 +55,18 @@ constexpr int kPageRight = 3615;  // where the page's right edge ends, for the l
 
 void Úvod::build() {
   for (const Entry& entry : kEntries) {
-    QPushButton* const button = addButton(window(), {.name = entry.button,
+    QPushButton* const button = addButton(client(), {.name = entry.button,
                                                      .place = {360, entry.top, 855, 375},
                                                      .caption = entry.caption,
                                                      .tooltip = entry.tooltip,
                                                      .back = entry.back});
-    addLabel(window(),
+    addLabel(client(),
              {.name = entry.label,
               .place = {entry.labelLeft, entry.top + 120, kPageRight - entry.labelLeft, 255},
               .caption = entry.examples});
     on(button, &QPushButton::clicked, [this, sheet = entry.sheet] { handOverTo(sheet); });
   }
-  QPushButton* const card = addButton(window(), {.name = "Command6",
+  QPushButton* const card = addButton(client(), {.name = "Command6",
                                                  .place = {240, 3600, 3135, 375},
                                                  .caption = "V Y S V E D Č E N I E",
                                                  .tooltip = " Zobrazí vysvedčenie ",

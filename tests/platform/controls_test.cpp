@@ -5,6 +5,7 @@
 #include "form_driver.h"
 #include "platform/keys.h"
 #include "platform/pictures.h"
+#include "platform/shapes.h"
 
 namespace ratanka {
 namespace {

@@ -5,6 +5,7 @@
 #include "form_driver.h"
 #include "platform/controls.h"
 #include "platform/form.h"
+#include "platform/menus.h"
 #include "platform/timer.h"
 
 namespace ratanka {
@@ -17,30 +18,42 @@ constexpr FormName kSecond{"second"};
 class TestForm : public Form {
  public:
   struct Script {
-    std::function<void(TestForm&)> load, unload, click, tick;
+    std::function<void(TestForm&)> load, unload, click, tick, activate;
     int interval = 100;
     std::vector<std::string> events;
   };
 
   TestForm(Forms& forms, FormName name, Script& script)
-      : Form(forms, {.name = name, .width = 3000, .height = 1500}), script_(script) {}
+      : Form(forms, {.name = name, .width = 3000, .height = 1500, .hasMenu = true}),
+        script_(script) {}
   ~TestForm() override { script_.events.emplace_back("drop"); }
 
   int variable = 0;
+  std::vector<std::string> keys;
   QLabel* label = nullptr;
   Timer* clock = nullptr;
 
  protected:
   void build() override {
-    label = addLabel(window(), {.name = "Label1", .place = {0, 0, 600, 300}, .caption = "0"});
+    label = addLabel(client(), {.name = "Label1", .place = {0, 0, 600, 300}, .caption = "0"});
     QPushButton* const button =
-        addButton(window(), {.name = "Command1", .place = {0, 300, 600, 600}});
+        addButton(client(), {.name = "Command1", .place = {0, 300, 600, 600}});
     on(button, &QPushButton::clicked, [this] { run("click", script_.click); });
     clock = timer("Timer1", script_.interval, [this] { run("tick", script_.tick); });
     clock->setEnabled(true);
+    QMenu* const menu = addMenu(menuBar(), "mnuFile", "&Menu");
+    QAction* const item =
+        addMenuItem(*menu, {.name = "mnuItem", .caption = "&Item", .shortcut = Qt::Key_F2});
+    on(item, &QAction::triggered, [this] { run("item", {}); });
   }
   void Form_Load() override { run("load", script_.load); }
   void Form_Unload() override { run("unload", script_.unload); }
+  void Form_Activate() override {
+    if (script_.activate) script_.activate(*this);
+  }
+  void Form_KeyDown(int keyCode) override { keys.push_back("down " + std::to_string(keyCode)); }
+  void Form_KeyUp(int keyCode) override { keys.push_back("up " + std::to_string(keyCode)); }
+  void keyboardLeaves() override { keys.emplace_back("leaves"); }
 
  private:
   void run(const char* event, const std::function<void(TestForm&)>& action) {
@@ -97,17 +110,126 @@ TEST_F(FormsTest, AnUnloadedFormKeepsItsVariablesAndADroppedOneDoesNot) {
   EXPECT_EQ(first.events, (Events{"load", "unload", "load", "unload", "drop", "load"}));
 }
 
-TEST_F(FormsTest, AHiddenFormTicksOn) {
+TEST_F(FormsTest, AHiddenFormTicksOnFourTimesASecondAtMost) {
   forms.show(kSecond);
   forms.show(kFirst);
   forms.hide(kFirst);
   EXPECT_TRUE(forms.isLoaded(kFirst));
   EXPECT_EQ(window(kFirst), nullptr);
-  advance(200);
+  advance(500);
   EXPECT_EQ(first.events, (Events{"load", "tick", "tick"}));
-  forms.unload(kFirst);
+  forms.show(kFirst);
   advance(200);
-  EXPECT_EQ(first.events, (Events{"load", "tick", "tick", "unload"}));
+  EXPECT_EQ(first.events.size(), 5U);
+  forms.unload(kFirst);
+  advance(1000);
+  EXPECT_EQ(first.events.size(), 6U);
+}
+
+TEST_F(FormsTest, AFormIsToldWhenAnotherOfTheProgramWasActiveBeforeIt) {
+  int activations = 0;
+  first.activate = [&](TestForm&) { ++activations; };
+  forms.show(kFirst);
+  EXPECT_EQ(activations, 1);
+  activate(*window(kFirst));
+  QWidget box;  // a box, or another program
+  box.show();
+  activate(box);
+  activate(*window(kFirst));
+  EXPECT_EQ(activations, 1);
+
+  forms.show(kSecond);
+  activate(*window(kSecond));
+  EXPECT_EQ(activations, 1);
+  activate(*window(kFirst));
+  EXPECT_EQ(activations, 2);
+  forms.hide(kFirst);
+  forms.show(kFirst);
+  EXPECT_EQ(activations, 3);
+}
+
+TEST_F(FormsTest, AFormSeesKeysBeforeTheControlThatHasTheKeyboard) {
+  TestForm* form = nullptr;
+  first.load = [&](TestForm& loaded) { form = &loaded; };
+  first.click = [&](TestForm&) { EXPECT_EQ(form->keys, (Events{"down 32", "up 32"})); };
+  forms.show(kFirst);
+  activate(*window(kFirst));
+  control<QPushButton>(kFirst, "Command1")->setFocus();
+  strike(Qt::Key_Space);
+  EXPECT_EQ(first.events, (Events{"load", "click"}));
+}
+
+TEST_F(FormsTest, AFormIsToldThatTheKeyboardLeavesIt) {
+  TestForm* form = nullptr;
+  first.load = [&](TestForm& loaded) { form = &loaded; };
+  forms.show(kFirst);
+  activate(*window(kFirst));
+  press(Qt::Key_A);
+  QWidget box;
+  box.show();
+  activate(box);
+  EXPECT_EQ(form->keys, (Events{"down 65", "leaves"}));
+  box.hide();
+  activate(*window(kFirst));
+
+  auto* const menu = control<QMenu>(kFirst, "mnuFile");
+  form->keys.clear();
+  menu->popup({});
+  strike(Qt::Key_B);  // is the menu's
+  EXPECT_EQ(form->keys, (Events{"leaves"}));
+  menu->close();
+}
+
+TEST_F(FormsTest, AMenuStandsAboveTheClientAreaAndAnswersToItsShortcut) {
+  forms.show(kFirst);
+  activate(*window(kFirst));
+  const int bar = window(kFirst)->findChild<QMenuBar*>()->height();
+  EXPECT_GT(bar, 10);
+  EXPECT_EQ(window(kFirst)->size(), QSize(200, 100 + bar));
+  auto* const label = control<QLabel>(kFirst, "Label1");
+  EXPECT_EQ(label->mapTo(window(kFirst), QPoint()), QPoint(0, bar));
+  strike(Qt::Key_F2);
+  EXPECT_EQ(first.events, (Events{"load", "item"}));
+}
+
+TEST_F(FormsTest, AModalFormHoldsItsCallerUntilItIsGone) {
+  std::vector<std::function<void()>> ends{
+      [&] { forms.hide(kFirst); }, [&] { forms.unload(kFirst); }, [&] { window(kFirst)->close(); },
+      [&] {
+        forms.drop(kFirst);
+        forms.drop(kSecond);
+        makePlain(kSecond);
+        forms.show(kSecond);
+      }};
+  forms.show(kSecond);
+  for (const auto& end : ends) {
+    bool isBack = false;
+    second.click = [&](TestForm&) {
+      QTimer::singleShot(0, qApp, [&] {
+        EXPECT_FALSE(isBack);
+        EXPECT_EQ(QApplication::activeModalWidget(), window(kFirst));
+        end();
+      });
+      forms.showModal(kFirst);
+      isBack = true;
+    };
+    clickButton(kSecond);
+    EXPECT_TRUE(isBack);
+    EXPECT_EQ(window(kFirst), nullptr);
+    EXPECT_NE(window(kSecond), nullptr);
+  }
+}
+
+TEST_F(FormsTest, TheProgramMayEndUnderAModalForm) {
+  forms.show(kSecond);
+  second.click = [&](TestForm&) {
+    QTimer::singleShot(0, qApp, [&] { forms.endProgram(); });
+    forms.showModal(kFirst);
+    forms.showModal(kFirst);  // nothing more comes up
+  };
+  clickButton(kSecond);
+  EXPECT_EQ(window(kFirst), nullptr);
+  EXPECT_EQ(window(kSecond), nullptr);
 }
 
 TEST_F(FormsTest, ANameWithoutAMakerDoesNothing) {

@@ -89,7 +89,7 @@ TEST(QtTicks, TickUntilTheirSourceIsGoneWhichMayBeInATick) {
   QtTicks ticks;
   int count = 0;
   std::unique_ptr<Ticks::Source> source;
-  source = ticks.every(std::chrono::milliseconds(2), [&] {
+  source = ticks.every(std::chrono::milliseconds(2), Ticks::Precision::any, [&] {
     if (++count == 3) source.reset();
   });
   EXPECT_TRUE(QTest::qWaitFor([&] { return count == 3; }, 5000));
