@@ -16,6 +16,10 @@
 #include "shell/names.h"
 #include "shell/splash.h"
 #include "shell/uvod.h"
+#include "soccer/player1.h"
+#include "soccer/player2.h"
+#include "soccer/select_player.h"
+#include "soccer/start_up.h"
 
 int main(int, char** arguments) {
   using namespace ratanka;
@@ -29,6 +33,7 @@ int main(int, char** arguments) {
   IniSettingsStore settings(IniSettingsStore::usersFolder());
   TwisterRandom random;
   Premenné premenné;
+  soccer::Declarations declarations;
   const sheets::SheetServices services{forms, dialogs, random, premenné};
 
   forms.setMaker(names::frmSplash,
@@ -44,6 +49,15 @@ int main(int, char** arguments) {
   });
   forms.setMaker(names::Piškôrky,
                  [&] { return std::make_shared<piskorky::Piškôrky>(forms, dialogs, random); });
+  forms.setMaker(names::frmStartUp, [&] { return std::make_shared<soccer::frmStartUp>(forms); });
+  forms.setMaker(names::frmSelectPlayer,
+                 [&] { return std::make_shared<soccer::frmSelectPlayer>(forms, declarations); });
+  forms.setMaker(names::frmPlayer1, [&] {
+    return std::make_shared<soccer::frmPlayer1>(forms, dialogs, random, declarations);
+  });
+  forms.setMaker(names::frmPlayer2, [&] {
+    return std::make_shared<soccer::frmPlayer2>(forms, dialogs, declarations);
+  });
   for (const sheets::SheetDesign& design : sheets::allSheets()) {
     forms.setMaker(design.name, [&services, design] {
       return std::make_shared<sheets::ExerciseSheet>(services, design);

@@ -24,5 +24,8 @@ inline constexpr FormName frmPuzzle{"frmPuzzle"};
 inline constexpr FormName Piškôrky{"Piškôrky"};
 inline constexpr FormName frmKockovka{"frmKockovka"};
 inline constexpr FormName frmStartUp{"frmStartUp"};
+inline constexpr FormName frmSelectPlayer{"frmSelectPlayer"};
+inline constexpr FormName frmPlayer1{"frmPlayer1"};
+inline constexpr FormName frmPlayer2{"frmPlayer2"};
 
 }  // namespace ratanka::names

@@ -1,0 +1,97 @@
+#include "soccer/select_player.h"
+
+#include <QPainter>
+
+#include "platform/controls.h"
+#include "platform/forms.h"
+#include "platform/keys.h"
+#include "platform/pictures.h"
+#include "platform/text.h"
+#include "shell/names.h"
+#include "soccer/rules/words.h"
+
+namespace ratanka::soccer {
+namespace {
+
+constexpr std::array kPictureLefts{120, 1440, 2760, 4080, 5400};  // twips
+constexpr std::array kNameLefts{300, 1600, 2920, 4320, 5580};
+constexpr int kRaisedHeight = 1512;
+
+constexpr Rgb kYellow{255, 255, 0};
+
+QString indexed(const char* name, int index) {
+  return QString(name) + '(' + QString::number(index) + ')';
+}
+
+}  // namespace
+
+frmSelectPlayer::frmSelectPlayer(Forms& forms, Declarations& declarations)
+    : Form(forms, {.name = names::frmSelectPlayer,
+                   .caption = "Výber protihráča",
+                   .width = 7200,
+                   .height = 1725,
+                   .back = kInkColour}),
+      declarations_(declarations) {}
+
+void frmSelectPlayer::build() {
+  for (std::size_t at = 0; at < kOpponents; ++at) {
+    picOpponent_.at(at) = addOpponent(static_cast<int>(at) + 1, kPictureLefts.at(at));
+  }
+  for (std::size_t at = 0; at < kOpponents; ++at) {
+    const int index = static_cast<int>(at) + 1;
+    lblName_.at(at) =
+        addLabel(client(), {.name = indexed("lblName", index),
+                            .place = {kNameLefts.at(at), 1280, 960, 270},
+                            .caption = ratanka::text(opponentName(index)),
+                            .type = {.family = "Comic Sans MS", .points = 9.75, .bold = true},
+                            .fore = kYellow,
+                            .align = Qt::AlignHCenter});
+    lblName_.at(at)->setAttribute(Qt::WA_TransparentForMouseEvents);
+  }
+}
+
+QWidget* frmSelectPlayer::addOpponent(int index, int left) {
+  const auto paint = [this, index](QPainter& painter, const QRect&) {
+    const QWidget& box = *picOpponent_.at(static_cast<std::size_t>(index) - 1);
+    painter.drawPixmap(
+        0, 0, picture("opponent-" + QString::number(index), box.size(), box.devicePixelRatioF()));
+    if (bordered_ != index) return;
+    painter.setPen(QPen(colour(kYellow), 2));
+    painter.drawRect(box.rect().adjusted(1, 1, -1, -1));
+  };
+  QWidget* const box = addCanvas(client(), {.name = indexed("picOpponent", index),
+                                            .place = {left, 120, 1680, 1440},
+                                            .paint = paint,
+                                            .isOpaque = true,
+                                            .accessibleName = ratanka::text(opponentName(index))});
+  auto* const mouse = new Clicks(*box);
+  on(mouse, &Clicks::pointerMoved, [this, index] { picOpponent_MouseMove(index); });
+  on(mouse, &Clicks::clicked, [this, index] { picOpponent_MouseUp(index); });
+  return box;
+}
+
+void frmSelectPlayer::Form_KeyDown(int keyCode) {
+  if (keyCode != key::kEscape) return;
+  forms().unload(names::frmSelectPlayer);
+  forms().show(names::frmStartUp);
+  forms().drop(names::frmSelectPlayer);
+}
+
+void frmSelectPlayer::picOpponent_MouseMove(int index) {
+  if (bordered_ == index) return;
+  bordered_ = index;
+  QWidget& box = *picOpponent_.at(static_cast<std::size_t>(index) - 1);
+  box.raise();
+  box.resize(box.width(), pixels(kRaisedHeight));
+  for (QLabel* const name : lblName_) name->raise();
+  client().update();
+}
+
+void frmSelectPlayer::picOpponent_MouseUp(int index) {
+  declarations_.OpponentIndex = index;
+  forms().unload(names::frmSelectPlayer);
+  forms().show(names::frmPlayer1);
+  forms().drop(names::frmSelectPlayer);
+}
+
+}  // namespace ratanka::soccer
