@@ -1,0 +1,96 @@
+#pragma once
+
+#include <QApplication>
+#include <QString>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <initializer_list>
+#include <vector>
+
+#include "platform/clock.h"
+#include "platform/forms.h"
+#include "platform/ini_settings_store.h"
+#include "platform/qt_dialogs.h"
+#include "platform/qt_ticks.h"
+#include "platform/twister_random.h"
+#include "sheets/exercise_sheet.h"
+#include "soccer/rules/declarations.h"
+
+namespace ratanka {
+
+// A clock that somebody has set.
+class StandingClock : public Clock {
+ public:
+  TimeOfDay timeOfDay() const override { return now; }
+  double secondsSinceMidnight() const override { return 0; }
+  TimeOfDay now;
+};
+
+// Chance that picks the told cells of nine.
+class ToldReplies : public Random {
+ public:
+  double next() override {
+    const int cell = cells.empty() ? 0 : cells.front();
+    if (!cells.empty()) cells.erase(cells.begin());
+    return (cell + 0.5) / 9;
+  }
+  void reseedFromClock() override {}
+  std::vector<int> cells;
+};
+
+inline constexpr int kPatience = 400;  // milliseconds, for the book to have turned to a page
+
+// Shows every form in its telling states and writes a picture of each.
+class Gallery {
+ public:
+  Gallery(QString folder, QString suffix)
+      : folder_(std::move(folder)), suffix_(std::move(suffix)) {}
+
+  void show();
+
+ private:
+  // What a child learns with: menu, sheets, card, clock.
+  void showMenu();
+  void showSheet(const sheets::SheetDesign& design, int mistakes);
+  void showCard();
+  void showClock();
+
+  // What a child earns.
+  void showMaze();
+  void showPiškôrky();
+  void playGame(std::initializer_list<int> moves, std::initializer_list<int> replies,
+                const QString& end);
+  void showSoccer();
+
+  QWidget& window(FormName name) const;
+  template <typename Control>
+  Control& control(FormName name, const QString& control) const {
+    return *window(name).findChild<Control*>(control);
+  }
+  void answer(FormName name, int row, const QString& typed);
+  void press(FormName name, int key);
+  void wait(int milliseconds);
+  // Of a form, once what moves on it has settled.
+  void take(FormName name, const QString& state);
+  // Of the box that comes up meanwhile, which is then closed.
+  void takeBox(const QString& name);
+  void save(QWidget& widget, const QString& name);
+
+  QString folder_;
+  QString suffix_;
+  QtTicks ticks_;
+  Forms forms_{ticks_};
+  QtDialogs dialogs_{forms_};
+  StandingClock time_;
+  const QTemporaryDir home_;
+  IniSettingsStore settings_{home_.path()};
+  ToldReplies replies_;
+  TwisterRandom random_;
+  Premenné premenné_;
+  soccer::Declarations declarations_;
+  sheets::SheetServices services_{forms_, dialogs_, random_, premenné_};
+};
+
+}  // namespace ratanka
