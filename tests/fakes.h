@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <deque>
 #include <functional>
 #include <map>
@@ -12,8 +13,10 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/dialogs.h"
+#include "platform/midi_out.h"
 #include "platform/random.h"
 #include "platform/settings_store.h"
+#include "platform/sound.h"
 #include "platform/ticks.h"
 
 // Doubles of the services, for tests to steer; each records what it was asked for.
@@ -115,22 +118,72 @@ class FakeDialogs : public Dialogs {
     return expected.answer;
   }
 
-  std::optional<std::string> input(const std::string& title, const std::string&,
-                                   const std::string&) override {
-    ADD_FAILURE() << "unexpected box: " << title;
-    return std::nullopt;
+  // The same of an input box, which is answered by this text, or cancelled.
+  void expectInput(const std::string& title, std::optional<std::string> typed,
+                   std::function<void()> whileOpen = {}) {
+    expected_.push_back({title, std::move(whileOpen), Answer::ok, std::move(typed)});
   }
 
+  std::optional<std::string> input(const std::string& title, const std::string& prompt,
+                                   const std::string& preset) override {
+    asked.push_back({title, prompt, preset});
+    if (expected_.empty() || expected_.front().title != title) {
+      ADD_FAILURE() << "unexpected box: " << title;
+      return std::nullopt;
+    }
+    const Expected expected = expected_.front();
+    expected_.pop_front();
+    if (expected.whileOpen) expected.whileOpen();
+    return expected.typed;
+  }
+
+  struct Asked {
+    std::string title, prompt, preset;
+  };
+
   std::vector<MessageBox> shown;
+  std::vector<Asked> asked;
 
  private:
   struct Expected {
     std::string title;
     std::function<void()> whileOpen;
     Answer answer;
+    std::optional<std::string> typed{};
   };
 
   std::deque<Expected> expected_;
+};
+
+// A machine with some MIDI devices, which writes down what it is asked for, messages in hex.
+class FakeMidi : public MidiOut {
+ public:
+  int midiOutGetNumDevs() override { return numDevices; }
+  std::string midiOutGetDevCapsA(int device) override { return "Zvuk " + std::to_string(device); }
+  int midiOutOpen(int device) override {
+    calls += "open " + std::to_string(device) + ' ';
+    return result;
+  }
+  void midiOutShortMsg(std::uint32_t message) override {
+    char text[16];
+    std::snprintf(text, sizeof text, "%06X ", static_cast<unsigned>(message));
+    calls += text;
+  }
+  void midiOutClose() override { calls += "close "; }
+
+  int numDevices = 2;
+  int result = 0;
+  std::string calls;
+};
+
+// Writes down what it is to play: waves by their files, "open", "play" and "close" of the music.
+class FakeSound : public Sound {
+ public:
+  void PlayWave(std::string_view file) override { played.emplace_back(file); }
+  void openMusic(std::string_view file) override { played.push_back("open " + std::string(file)); }
+  void playMusic() override { played.emplace_back("play"); }
+  void closeMusic() override { played.emplace_back("close"); }
+  std::vector<std::string> played;
 };
 
 class FakeClock : public Clock {

@@ -138,10 +138,18 @@ void TextBox::keyReleaseEvent(QKeyEvent* event) {
   if (!event->isAutoRepeat()) emit keyUp(keyCode(*event));
 }
 
+void TextBox::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  const Qt::FocusReason reason = event->reason();
+  const bool isToOtherWindow =
+      reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+  if (!isToOtherWindow) emit lostFocus();
+}
+
 TextBox* addTextBox(QWidget& form, const TextBoxDesign& design) {
   auto* const box = new TextBox(&form);
   setUp(*box, design.name, design.place);
-  box->setMaxLength(design.maxLength);
+  if (design.maxLength > 0) box->setMaxLength(design.maxLength);
   box->setFont(font(design.type));
   box->setContextMenuPolicy(Qt::NoContextMenu);
   box->setAcceptDrops(false);
@@ -233,6 +241,11 @@ void Button::keyReleaseEvent(QKeyEvent* event) {
   event->setAccepted(asSpace.isAccepted());
 }
 
+void Button::mousePressEvent(QMouseEvent* event) {
+  emit mouseDown();
+  if (isVisible()) QPushButton::mousePressEvent(event);
+}
+
 void Button::mouseMoveEvent(QMouseEvent* event) {
   QPushButton::mouseMoveEvent(event);
   if (hasMouseTracking()) emit pointerMoved();
@@ -243,9 +256,7 @@ Button* addButton(QWidget& form, const ButtonDesign& design) {
   setUp(*button, design.name, design.place);
   button->setToolTip(design.tooltip);
   button->setFont(font(design.type));
-  QPalette palette = button->palette();
-  palette.setColor(QPalette::Button, colour(design.back));
-  button->setPalette(palette);
+  setFace(*button, design.back);
   if (!design.icon.isEmpty()) {
     button->setIcon(pictureIcon(design.icon));
     button->setIconSize({design.iconSize, design.iconSize});
@@ -255,6 +266,27 @@ Button* addButton(QWidget& form, const ButtonDesign& design) {
   if (design.isShy) button->setFocusPolicy(Qt::NoFocus);
   button->setVisible(design.visible);
   return button;
+}
+
+void setFace(Button& button, const Rgb& back) {
+  QPalette palette = button.palette();
+  palette.setColor(QPalette::Button, colour(back));
+  button.setPalette(palette);
+}
+
+QCheckBox* addCheckBox(QWidget& form, const CheckBoxDesign& design) {
+  auto* const box = new QCheckBox(design.caption, &form);
+  setUp(*box, design.name, design.place);
+  return box;
+}
+
+QComboBox* addComboBox(QWidget& form, const ComboBoxDesign& design) {
+  auto* const box = new QComboBox(&form);
+  setUp(*box, design.name, design.place);
+  box->addItems(design.items);
+  box->setCurrentIndex(design.chosen);
+  box->setAccessibleName(design.accessibleName);
+  return box;
 }
 
 }  // namespace ratanka

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QCheckBox>
 #include <QColor>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -56,8 +58,11 @@ class TextBox : public QLineEdit {
  signals:
   // The system's key code (platform/keys.h).
   void keyUp(int keyCode);
+  // Another control of the form has the keyboard now.
+  void lostFocus();
 
  protected:
+  void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
 };
@@ -65,7 +70,7 @@ class TextBox : public QLineEdit {
 struct TextBoxDesign {
   QString name;
   Place place;
-  int maxLength = 0;
+  int maxLength = 0;  // 0 is without a limit
   Type type{};
 };
 TextBox* addTextBox(QWidget& form, const TextBoxDesign& design);
@@ -146,8 +151,11 @@ class Button : public QPushButton {
  signals:
   // The pointer moves over a shy button.
   void pointerMoved();
+  // Any mouse button goes down on it. A button that hides itself then isn't clicked.
+  void mouseDown();
 
  protected:
+  void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -166,5 +174,22 @@ struct ButtonDesign {
   bool isShy = false;  // feels the pointer, never gets the keyboard
 };
 Button* addButton(QWidget& form, const ButtonDesign& design);
+void setFace(Button& button, const Rgb& back);
+
+struct CheckBoxDesign {
+  QString name;
+  Place place;
+  QString caption;
+};
+QCheckBox* addCheckBox(QWidget& form, const CheckBoxDesign& design);
+
+struct ComboBoxDesign {
+  QString name;
+  Place place;
+  QStringList items;
+  int chosen = 0;  // from 0
+  QString accessibleName{};
+};
+QComboBox* addComboBox(QWidget& form, const ComboBoxDesign& design);
 
 }  // namespace ratanka

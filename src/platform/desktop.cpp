@@ -2,7 +2,7 @@
 
 #include <xcb/xcb.h>
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QScreen>
 #include <QWidget>
 #include <cmath>
@@ -59,6 +59,13 @@ void centreOnScreen(QWidget& window) {
   };
   window.move(area.left() + middle(area.width(), window.width()),
               area.top() + middle(area.height(), window.height()));
+}
+
+void centreOverActiveWindow(QWidget& window) {
+  const QWidget* const active = QApplication::activeWindow();
+  if (active == nullptr) return;
+  window.move(active->x() + (active->width() - window.width()) / 2,
+              active->y() + (active->height() - window.height()) / 2);
 }
 
 }  // namespace ratanka

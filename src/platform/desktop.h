@@ -31,4 +31,7 @@ bool canDrawTranslucentWindows();
 // top likewise, in whole twips.
 void centreOnScreen(QWidget& window);
 
+// Puts a window in the middle of the program's active one.
+void centreOverActiveWindow(QWidget& window);
+
 }  // namespace ratanka

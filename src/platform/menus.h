@@ -15,7 +15,7 @@ QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption);
 
 struct MenuItemDesign {
   QString name;
-  QString caption;  // "-" is a line between items
+  QString caption{};  // "-" is a line between items
   Qt::Key shortcut = Qt::Key_unknown;
   bool enabled = true;
   bool visible = true;

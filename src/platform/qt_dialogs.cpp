@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPointer>
@@ -42,6 +43,15 @@ QMessageBox::Icon iconOf(MessageBox::Icon icon) {
 // The toolkit breaks lines at the line feed alone.
 QString unixLines(const std::string& utf8) { return text(utf8).replace("\r\n", "\n"); }
 
+// A table, its columns apart by tabs: the toolkit would take a tab for a blank and break the lines.
+void makeRoomForTabs(QMessageBox& window) {
+  constexpr int kTab = 80;
+  auto* const label = window.findChild<QLabel*>("qt_msgbox_label");
+  if (label == nullptr || !window.text().contains('\t')) return;
+  label->setMinimumWidth(
+      label->fontMetrics().size(Qt::TextExpandTabs, window.text(), kTab).width() + kTab);
+}
+
 }  // namespace
 
 void QtDialogs::speakSlovak() {
@@ -66,6 +76,7 @@ Dialogs::Answer QtDialogs::message(const MessageBox& box) {
   window->setIcon(iconOf(box.icon));
   window->setTextFormat(Qt::PlainText);
   window->setText(unixLines(box.text));
+  makeRoomForTabs(*window);
   window->setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   window->setWindowModality(Qt::ApplicationModal);
 

@@ -23,6 +23,7 @@ inline constexpr FormName Klavír{"Klavír"};
 inline constexpr FormName frmPuzzle{"frmPuzzle"};
 inline constexpr FormName Piškôrky{"Piškôrky"};
 inline constexpr FormName frmKockovka{"frmKockovka"};
+inline constexpr FormName frmOptions{"frmOptions"};
 inline constexpr FormName frmStartUp{"frmStartUp"};
 inline constexpr FormName frmSelectPlayer{"frmSelectPlayer"};
 inline constexpr FormName frmPlayer1{"frmPlayer1"};

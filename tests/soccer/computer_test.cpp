@@ -58,8 +58,9 @@ std::string holds(int level, const Scene& scene) {
 std::string towards(int point) {
   // clang-format off
   constexpr const char* kWays[17] = {
-      "-", "Up", "Up+Right", "Up+Right", "Up+Right", "Right", "Down+Right", "Down+Right", "Down+Right",
-      "Down", "Down+Left", "Down+Left", "Down+Left", "Left", "Up+Left", "Up+Left", "Up+Left"};
+      "-", "Up", "Up+Right", "Up+Right", "Up+Right", "Right", "Down+Right", "Down+Right",
+      "Down+Right", "Down", "Down+Left", "Down+Left", "Down+Left", "Left", "Up+Left", "Up+Left",
+      "Up+Left"};
   // clang-format on
   return kWays[point];
 }

@@ -20,6 +20,9 @@ void Gallery::show() {
   showMaze();
   showPiškôrky();
   showSoccer();
+  showBlocks();
+  showPuzzle();
+  showPiano();
   forms_.endProgram();
 }
 

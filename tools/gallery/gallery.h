@@ -9,11 +9,14 @@
 #include <initializer_list>
 #include <vector>
 
+#include "blocks/rules/options.h"
 #include "platform/clock.h"
 #include "platform/forms.h"
 #include "platform/ini_settings_store.h"
+#include "platform/midi_out.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_ticks.h"
+#include "platform/sound.h"
 #include "platform/twister_random.h"
 #include "sheets/exercise_sheet.h"
 #include "soccer/rules/declarations.h"
@@ -40,6 +43,20 @@ class ToldReplies : public Random {
   std::vector<int> cells;
 };
 
+// A machine without sound.
+class Silence : public Sound, public MidiOut {
+ public:
+  void PlayWave(std::string_view) override {}
+  void openMusic(std::string_view) override {}
+  void playMusic() override {}
+  void closeMusic() override {}
+  int midiOutGetNumDevs() override { return 0; }
+  std::string midiOutGetDevCapsA(int) override { return {}; }
+  int midiOutOpen(int) override { return 0; }
+  void midiOutShortMsg(std::uint32_t) override {}
+  void midiOutClose() override {}
+};
+
 inline constexpr int kPatience = 400;  // milliseconds, for the book to have turned to a page
 
 // Shows every form in its telling states and writes a picture of each.
@@ -63,6 +80,9 @@ class Gallery {
   void playGame(std::initializer_list<int> moves, std::initializer_list<int> replies,
                 const QString& end);
   void showSoccer();
+  void showBlocks();
+  void showPuzzle();
+  void showPiano();
 
   QWidget& window(FormName name) const;
   template <typename Control>
@@ -90,6 +110,8 @@ class Gallery {
   TwisterRandom random_;
   Premenné premenné_;
   soccer::Declarations declarations_;
+  blocks::Options options_{.StartingLevel = 7, .FillLines = true};
+  Silence silence_;
   sheets::SheetServices services_{forms_, dialogs_, random_, premenné_};
 };
 

@@ -34,8 +34,8 @@ struct Match {
   int BallStepY = kStep;
   int RedGoals = 0;
   int BlueGoals = 0;
-  Held redHeld;
-  Held blueHeld;
+  Held redHeld{};
+  Held blueHeld{};
   bool isPaused = false;  // frozen; taps and bounces are worked out all the same
 
   // Everything to its start. The countdown's timer begins anew with its first wait of two seconds.

@@ -1,0 +1,183 @@
+#include "piano/klavir.h"
+
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QMenu>
+#include <utility>
+
+#include "form_driver.h"
+#include "platform/scroll_bar.h"
+#include "shell/names.h"
+
+namespace ratanka::piano {
+namespace {
+
+constexpr FormName kSheet{"sheet"};
+constexpr FormName kPiano = names::Klavír;
+
+class KlavírTest : public FormTest {
+ protected:
+  KlavírTest() {
+    forms.setMaker(kPiano, [this] { return std::make_shared<Klavír>(forms, dialogs, midi); });
+    makePlain(kSheet);
+    forms.show(kSheet);
+  }
+  ~KlavírTest() override {
+    forms.drop(kPiano);
+    forms.drop(kSheet);
+    settle();
+  }
+
+  void open() {
+    forms.show(kPiano);
+    activate(*window(kPiano));
+    midi.calls.clear();
+  }
+  // Since the last look.
+  std::string calls() { return std::exchange(midi.calls, {}); }
+
+  static QAbstractButton* key(int index) {
+    return control<QAbstractButton>(kPiano, QString("key(%1)").arg(index));
+  }
+  static std::string keysDown() {
+    std::string seen;
+    for (int index = 0; index < kKeys; ++index) seen += key(index)->isChecked() ? '#' : '.';
+    return seen;
+  }
+  static QAction* item(const char* name) { return control<QAction>(kPiano, name); }
+
+  FakeMidi midi;
+};
+
+TEST_F(KlavírTest, PlaysTheComputersKeysAndTheMouse) {
+  open();
+  press(Qt::Key_Z);
+  press(Qt::Key_Comma);
+  EXPECT_EQ(keysDown(), "#...........#....");
+  EXPECT_EQ(calls(), "7F3C90 7F4890 ");
+  release(Qt::Key_Z);
+  EXPECT_EQ(keysDown(), "............#....");
+  release(Qt::Key_Comma);
+  EXPECT_EQ(calls(), "003C80 004880 ");
+
+  QTest::mousePress(key(1), Qt::RightButton);
+  EXPECT_EQ(keysDown(), ".#...............");
+  QTest::mouseRelease(key(1), Qt::RightButton);
+  EXPECT_EQ(keysDown(), ".................");
+  EXPECT_EQ(calls(), "7F3D90 003D80 ");
+  strike(Qt::Key_Q);
+  EXPECT_EQ(calls(), "");
+}
+
+TEST_F(KlavírTest, AHeldKeySoundsOnce) {
+  open();
+  press(Qt::Key_X);
+  QWindow* const handle = window(kPiano)->windowHandle();
+  for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyPress}) {
+    QKeyEvent repeat(type, Qt::Key_X, Qt::NoModifier, "x", true);
+    QCoreApplication::sendEvent(handle, &repeat);
+  }
+  EXPECT_EQ(calls(), "7F3E90 ");
+  release(Qt::Key_X);
+  EXPECT_EQ(calls(), "003E80 ");
+}
+
+TEST_F(KlavírTest, NoKeyHangsWhenSomethingTakesTheKeyboard) {
+  open();
+  press(Qt::Key_Z);
+  activate(*window(kSheet));
+  EXPECT_EQ(keysDown(), ".................");
+  EXPECT_EQ(calls(), "7F3C90 003C80 ");
+  activate(*window(kPiano));
+  press(Qt::Key_Z);
+  control<QMenu>(kPiano, "ChannelOption")->popup({});
+  EXPECT_EQ(calls(), "7F3C90 003C80 ");
+  control<QMenu>(kPiano, "ChannelOption")->close();
+}
+
+TEST_F(KlavírTest, MenusChooseDeviceAndChannel) {
+  midi.numDevices = 12;
+  open();
+  EXPECT_EQ(item("device(0)")->text(), "MIDI Mapper");
+  EXPECT_EQ(item("device(10)")->text(), "Zvuk 9");
+  EXPECT_TRUE(item("device(10)")->isVisible());
+  EXPECT_TRUE(item("device(0)")->isChecked());
+  item("device(3)")->trigger();
+  EXPECT_EQ(calls(), "close open 2 ");
+  EXPECT_FALSE(item("device(0)")->isChecked());
+  EXPECT_TRUE(item("device(3)")->isChecked());
+  item("device(3)")->trigger();  // once more: stays checked
+  EXPECT_TRUE(item("device(3)")->isChecked());
+
+  EXPECT_TRUE(item("chan(0)")->isChecked());
+  item("chan(15)")->trigger();
+  EXPECT_FALSE(item("chan(0)")->isChecked());
+  EXPECT_TRUE(item("chan(15)")->isChecked());
+  calls();
+  press(Qt::Key_Z);
+  EXPECT_EQ(calls(), "7F3C9F ");
+
+  // A new opening starts afresh, with the devices of its moment.
+  midi.numDevices = 1;
+  forms.unload(kPiano);
+  EXPECT_EQ(calls(), "close ");
+  open();
+  EXPECT_TRUE(item("chan(0)")->isChecked());
+  EXPECT_TRUE(item("device(0)")->isChecked());
+  EXPECT_TRUE(item("device(1)")->isVisible());
+  EXPECT_FALSE(item("device(2)")->isVisible());
+}
+
+TEST_F(KlavírTest, TheBaseNoteIsAskedFor) {
+  open();
+  dialogs.expectInput("Výška tónu", "111");
+  item("base")->trigger();
+  EXPECT_EQ(dialogs.asked.back().prompt, "Vložte prosím novú hodnotu výšky tónu (0 - 111)");
+  EXPECT_EQ(dialogs.asked.back().preset, "60");
+  dialogs.expectInput("Výška tónu", "112");
+  item("base")->trigger();
+  EXPECT_EQ(dialogs.asked.back().preset, "111");
+  dialogs.expectInput("Výška tónu", std::nullopt, [this] { forms.drop(kPiano); });
+  press(Qt::Key_Slash);
+  EXPECT_EQ(calls(), "7F7F90 ");
+  item("base")->trigger();
+  EXPECT_FALSE(forms.isLoaded(kPiano));
+}
+
+TEST_F(KlavírTest, TheVolumeIsLoudestAtTheLeft) {
+  open();
+  auto* const vol = control<ReversedScrollBar>(kPiano, "vol");
+  EXPECT_EQ(vol->value(), 127);
+  EXPECT_EQ(vol->minimum(), 0);
+  QTest::mouseClick(vol, Qt::LeftButton, {}, {vol->width() * 3 / 4, vol->height() / 2});
+  EXPECT_EQ(vol->value(), 127 - vol->pageStep());
+  vol->setFocus();
+  strike(Qt::Key_Right);
+  EXPECT_EQ(vol->value(), 126 - vol->pageStep());
+  strike(Qt::Key_Left);
+  EXPECT_EQ(vol->value(), 127 - vol->pageStep());
+  vol->setValue(5);
+  QTest::mouseClick(vol, Qt::LeftButton, {}, {vol->width() / 4, vol->height() / 2});
+  EXPECT_EQ(vol->value(), 5 + vol->pageStep());
+  vol->setValue(0);
+  press(Qt::Key_Z);
+  EXPECT_EQ(calls(), "003C90 ");
+}
+
+TEST_F(KlavírTest, WithoutSoundItSaysSoAndTheKeysMove) {
+  midi.result = 11;
+  dialogs.expect("Rátanka");
+  open();
+  EXPECT_EQ(dialogs.shown.front().text, "Nastala chyba v zvuku. Tóny klavíra nebude počuť");
+  EXPECT_EQ(dialogs.shown.front().icon, MessageBox::Icon::none);
+  press(Qt::Key_Z);
+  EXPECT_EQ(keysDown(), "#................");
+  dialogs.expect("Rátanka");
+  item("device(1)")->trigger();
+  EXPECT_TRUE(item("device(1)")->isChecked());
+}
+
+}  // namespace
+}  // namespace ratanka::piano

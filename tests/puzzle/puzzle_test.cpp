@@ -1,0 +1,142 @@
+#include "puzzle/puzzle.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QComboBox>
+
+#include "form_driver.h"
+#include "platform/controls.h"
+#include "shell/names.h"
+
+namespace ratanka::puzzle {
+namespace {
+
+constexpr FormName kSheet{"sheet"};
+constexpr FormName kPuzzle = names::frmPuzzle;
+
+class PuzzleTest : public FormTest {
+ protected:
+  PuzzleTest() {
+    forms.setMaker(kPuzzle, [this] {
+      return std::make_shared<frmPuzzle>(forms, dialogs, random, sound, settings);
+    });
+    makePlain(kSheet);
+    forms.show(kSheet);
+    forms.show(kPuzzle);
+    activate(*window(kPuzzle));
+    control<QComboBox>(kPuzzle, "cmbSize")->setCurrentText("3");
+  }
+  ~PuzzleTest() override {
+    forms.drop(kPuzzle);
+    forms.drop(kSheet);
+    settle();
+  }
+
+  static Button* tile(int place) {
+    return control<Button>(kPuzzle, QString("cmdButton(%1)").arg(place));
+  }
+  static void pressTile(int place, Qt::MouseButton button = Qt::LeftButton) {
+    QTest::mouseClick(tile(place), button);
+    settle();
+  }
+  static Button* shuffle() { return control<Button>(kPuzzle, "cmdShuffle"); }
+  static std::string caption() { return window(kPuzzle)->windowTitle().toStdString(); }
+
+  // A walk of the hole up and down in turn, which ends one move from the order.
+  void shuffleByOneMove() {
+    for (int draw = 0; draw < 81; ++draw) random.draw(draw % 2 == 0 ? 2 : 3, 4);
+    click(shuffle());
+  }
+  static constexpr int kLastTile = 8;
+
+  FakeRandom random;
+  FakeSound sound;
+  FakeSettings settings;
+};
+
+TEST_F(PuzzleTest, TilesSlideToTheHoleByAnyMouseButtonAndAtOnce) {
+  EXPECT_FALSE(tile(8)->isVisible());
+  pressTile(5, Qt::RightButton);
+  EXPECT_FALSE(tile(5)->isVisible());
+  EXPECT_EQ(tile(8)->text(), "6");
+  EXPECT_TRUE(tile(8)->hasFocus());
+  pressTile(0);  // isn't next to the hole
+  EXPECT_EQ(tile(0)->text(), "1");
+  EXPECT_EQ(shuffle()->text(), "Nová hra");
+  pressTile(8);
+  EXPECT_EQ(shuffle()->text(), "Zamiešať");
+  EXPECT_TRUE(shuffle()->hasFocus());
+  EXPECT_EQ(sound.played, (std::vector<std::string>{"Pucle1.wav", "Pucle1.wav"}));
+  advance(5000);
+  EXPECT_EQ(caption(), "Pucle");  // nobody played against the clock
+}
+
+TEST_F(PuzzleTest, AGameAgainstTheClockEndsInTheList) {
+  shuffleByOneMove();
+  EXPECT_EQ(shuffle()->text(), "Nová hra");
+  advance(7000);
+  EXPECT_EQ(caption(), "Čas: 7 s");
+  dialogs.expectInput("Výsledková listina", "  Ľubica  ", [this] { advance(3000); });
+  pressTile(kLastTile);
+  EXPECT_EQ(dialogs.asked.front().prompt, "Zapíš svoje Meno!");
+  EXPECT_EQ(caption(), "Čas: 7 s");
+  EXPECT_EQ(settings.values["Rátanka - hra Pucle/Pucle/3"], "7");
+  EXPECT_EQ(settings.values["Rátanka - hra Pucle/Pucle/3Hráč"], "Ľubica");
+  EXPECT_EQ(sound.played, (std::vector<std::string>{"Pucle3.wav", "Pucle1.wav", "Pucle2.wav"}));
+
+  dialogs.expect("Výsledková listina");
+  strike(Qt::Key_F2);
+  EXPECT_EQ(dialogs.shown.front().text,
+            "Hra\tČas\tHráč\r\n3\t7\tĽubica\r\n4\t-\t-\r\n5\t-\t-\r\n6\t-\t-\r\n7\t-\t-\r\n");
+}
+
+TEST_F(PuzzleTest, TheMenuTurnsTheSoundOffAndLeaves) {
+  strike(Qt::Key_F3);
+  EXPECT_FALSE(control<QAction>(kPuzzle, "mnuSound")->isChecked());
+  shuffleByOneMove();
+  EXPECT_TRUE(sound.played.empty());
+  strike(Qt::Key_F4);
+  settle();
+  EXPECT_FALSE(forms.isLoaded(kPuzzle));
+  advance(3000);
+}
+
+TEST_F(PuzzleTest, AnotherSizeGivesUpTheGame) {
+  shuffleByOneMove();
+  advance(2000);
+  for (const int size : {7, 5}) {
+    control<QComboBox>(kPuzzle, "cmbSize")->setCurrentText(QString::number(size));
+    int visible = 0;
+    for (int place = 0; place < kButtons; ++place) visible += tile(place)->isVisible() ? 1 : 0;
+    EXPECT_EQ(visible, size * size - 1);
+    EXPECT_EQ(caption(), "Pucle");
+    EXPECT_EQ(shuffle()->text(), "Zamiešať");
+  }
+  advance(2000);
+  EXPECT_EQ(caption(), "Pucle");
+}
+
+TEST_F(PuzzleTest, TheClockWaitsWhileTheWindowIsMinimised) {
+  shuffleByOneMove();
+  advance(1000);
+  window(kPuzzle)->showMinimized();
+  advance(5000);
+  window(kPuzzle)->showNormal();
+  EXPECT_TRUE(shuffle()->hasFocus());
+  EXPECT_EQ(caption(), "Čas: 1 s");
+  advance(1000);
+  EXPECT_EQ(caption(), "Čas: 2 s");
+}
+
+TEST_F(PuzzleTest, MayBeLeftUnderItsBoxes) {
+  shuffleByOneMove();
+  advance(1000);
+  dialogs.expectInput("Výsledková listina", std::nullopt, [this] { forms.drop(kPuzzle); });
+  pressTile(kLastTile);
+  EXPECT_FALSE(forms.isLoaded(kPuzzle));
+  EXPECT_EQ(settings.values["Rátanka - hra Pucle/Pucle/3Hráč"], "");
+}
+
+}  // namespace
+}  // namespace ratanka::puzzle
