@@ -77,6 +77,12 @@ pid_t startServer(PixelSize size, std::string& displayName) {
   return server;
 }
 
+Rgb colourIn(XImage& image, int x, int y) {
+  const unsigned long value = XGetPixel(&image, x, y);
+  const auto part = [value](int shift) { return static_cast<int>((value >> shift) & 0xff); };
+  return {part(16), part(8), part(0)};
+}
+
 }  // namespace
 
 PrivateDesktop::PrivateDesktop(PixelSize size) {
@@ -152,10 +158,25 @@ Rgb PrivateDesktop::pixel(int x, int y) const {
   XImage* const image =
       XGetImage(display_, DefaultRootWindow(display_), x, y, 1, 1, AllPlanes, ZPixmap);
   if (image == nullptr) return {};
-  const unsigned long value = XGetPixel(image, 0, 0);
+  const Rgb seen = colourIn(*image, 0, 0);
   XDestroyImage(image);
-  const auto part = [value](int shift) { return static_cast<int>((value >> shift) & 0xff); };
-  return {part(16), part(8), part(0)};
+  return seen;
+}
+
+std::vector<ScreenPoint> PrivateDesktop::pixelsOf(const Rgb& colour, ScreenPoint corner,
+                                                  PixelSize size) const {
+  std::vector<ScreenPoint> places;
+  XImage* const image = XGetImage(display_, DefaultRootWindow(display_), corner.x, corner.y,
+                                  static_cast<unsigned>(size.width),
+                                  static_cast<unsigned>(size.height), AllPlanes, ZPixmap);
+  if (image == nullptr) return places;
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) {
+      if (colourIn(*image, x, y) == colour) places.push_back({corner.x + x, corner.y + y});
+    }
+  }
+  XDestroyImage(image);
+  return places;
 }
 
 unsigned long PrivateDesktop::find(const std::string& title) const {

@@ -54,6 +54,8 @@ class PrivateDesktop {
   // `light` together, '.' for the rest, a line a row.
   std::string darkness(int x, int y, PixelSize size, int light = 330) const;
   bool waitForPixel(int x, int y, const Rgb& colour) const;
+  // Where pixels of exactly this colour stand in an area, row by row.
+  std::vector<ScreenPoint> pixelsOf(const Rgb& colour, ScreenPoint corner, PixelSize size) const;
 
  private:
   std::string displayName_;

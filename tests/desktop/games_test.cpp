@@ -7,7 +7,7 @@
 #include <sstream>
 #include <thread>
 
-#include "desktop/places.h"
+#include "desktop/reward.h"
 #include "maze/rules/maze_file.h"
 #include "piskorky/rules/game.h"
 #include "platform/twister_random.h"
@@ -18,14 +18,6 @@ namespace {
 
 using piskorky::Game;
 using piskorky::Outcome;
-
-// Opens a sheet of the menu and does its first set with all answers right.
-void doSheet(const PrivateDesktop& desktop, int button, const sheets::Examples& examples) {
-  ASSERT_TRUE(desktop.waitForActive(kMenu));
-  clickMenu(desktop, button);
-  ASSERT_TRUE(desktop.waitForActive(kSheet));
-  for (const sheets::Example& example : examples) answer(desktop, std::to_string(example.Výsledok));
-}
 
 // The arrow keys of the shortest way through a maze.
 std::string wayThrough(const maze::Maze& maze) {

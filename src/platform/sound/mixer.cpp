@@ -1,0 +1,90 @@
+#include "platform/sound/mixer.h"
+
+#include <SDL.h>
+
+#include "platform/sound/sound_system.h"
+
+namespace ratanka {
+namespace {
+
+constexpr int kRate = 44100;   // Hz, as the waves have it
+constexpr int kFrames = 512;   // 12 ms from a wave's start to its sound
+constexpr int kChannels = 16;  // waves at a time
+constexpr std::chrono::seconds kPatience{10};
+
+// Of 128. The music lies beneath the waves, which are to be heard and to be told apart.
+constexpr int kMusicVolume = 25;
+
+}  // namespace
+
+Mixer::~Mixer() {
+  closeMusic();
+  close();
+}
+
+bool Mixer::open() {
+  const auto now = std::chrono::steady_clock::now();
+  if (isOpen_ || now < nextTry_) return isOpen_;
+  const SoundSystem system;
+  isOpen_ =
+      system.isReady() && Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kFrames, nullptr, 0) == 0;
+  if (!isOpen_) {
+    nextTry_ = now + kPatience;
+    return false;
+  }
+  Mix_AllocateChannels(kChannels);
+  Mix_VolumeMusic(kMusicVolume);
+  Mix_SetSoundFonts(soundFont_.c_str());
+  return true;
+}
+
+void Mixer::close() {
+  if (!isOpen_) return;
+  const SoundSystem system;
+  Mix_CloseAudio();
+  isOpen_ = false;
+}
+
+Mix_Chunk* Mixer::wave(const std::string& file) {
+  const auto [place, isNew] = waves_.try_emplace(file);
+  if (isNew) place->second.reset(Mix_LoadWAV(file.c_str()));
+  return place->second.get();
+}
+
+void Mixer::playWave(const std::string& file) {
+  constexpr int kAnyFree = -1;
+  constexpr int kOfAll = -1;
+  if (!open()) return;
+  Mix_Chunk* const chunk = wave(file);
+  if (chunk == nullptr || Mix_PlayChannel(kAnyFree, chunk, 0) >= 0) return;
+  Mix_PlayChannel(Mix_GroupOldest(kOfAll), chunk, 0);
+}
+
+void Mixer::openMusic(const std::string& file) {
+  closeMusic();
+  if (soundFont_.empty() || !open()) return;
+  const SoundSystem system;
+  music_.reset(Mix_LoadMUS(file.c_str()));
+  musicFile_ = file;
+  isFresh_ = true;
+}
+
+void Mixer::playMusic() {
+  // What has played before would go on from where it was.
+  if (music_ && !isFresh_) openMusic(musicFile_);
+  if (!music_) return;
+  Mix_PlayMusic(music_.get(), 1);
+  isFresh_ = false;
+}
+
+void Mixer::closeMusic() {
+  if (!music_) return;
+  const SoundSystem system;
+  music_.reset();
+}
+
+void Mixer::rest() {
+  if (!music_ && isOpen_ && Mix_Playing(-1) == 0) close();
+}
+
+}  // namespace ratanka
