@@ -40,6 +40,7 @@ void measure(const Programs& programs, const Runs& runs) {
   measureTicks(robot, programs, runs.tickSets);
   measureVisits(robot, programs, runs.visits);
   measureGames(robot, programs, runs.restSeconds);
+  measureSoccer(robot, programs, runs.restSeconds);
 }
 
 }  // namespace

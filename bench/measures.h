@@ -33,4 +33,8 @@ void measureVisits(Robot& robot, const Programs& programs, int visits);
 // open. Needs a window manager.
 void measureGames(Robot& robot, const Programs& programs, int seconds);
 
+// What a match against the strongest computer costs beyond its sheet, how soon a key moves a
+// player, and how many ticks a second come. Needs a window manager.
+void measureSoccer(Robot& robot, const Programs& programs, int seconds);
+
 }  // namespace ratanka::bench
