@@ -10,9 +10,10 @@ QMenu* addMenu(QMenuBar& bar, const QString& name, const QString& caption) {
 }
 
 QAction* addMenuItem(QWidget& menu, const MenuItemDesign& design) {
-  auto* const item = new QAction(design.caption, &menu);
+  const bool isSeparator = design.caption == "-";
+  auto* const item = new QAction(isSeparator ? QString() : design.caption, &menu);
   item->setObjectName(design.name);
-  item->setSeparator(design.caption == "-");
+  item->setSeparator(isSeparator);
   if (design.shortcut != Qt::Key_unknown) item->setShortcut(design.shortcut);
   // A held key is pressed once.
   item->setAutoRepeat(false);
