@@ -41,6 +41,7 @@ void measure(const Programs& programs, const Runs& runs) {
   measureVisits(robot, programs, runs.visits);
   measureGames(robot, programs, runs.restSeconds);
   measureSoccer(robot, programs, runs.restSeconds);
+  measureBoards(robot, programs, runs.restSeconds);
 }
 
 }  // namespace

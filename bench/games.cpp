@@ -11,40 +11,22 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr Point kReward{244 + 348, 133 + 468};
-constexpr int kHádanka = 6;  // its button in the menu
+constexpr int kMalá = 0;  // their buttons in the menu
+constexpr int kHádanka = 6;
 constexpr int kMazeSide = 200;
-constexpr auto kPause = 3500ms;  // until the next set has come
-
-void doSet(Robot& robot, const sheets::Examples& examples) {
-  for (const sheets::Example& example : examples) {
-    for (const char digit : std::to_string(example.Výsledok)) robot.strike(digitKey(digit));
-    robot.strike(Key::enter);
-    rest(60ms);
-  }
-}
 
 void measurePiškôrky(Robot& robot, const Programs& programs, int seconds) {
   const OpenWindow window(robot, programs.ratanka);
-  openSheet(robot, window, kHádanka);
   TwisterRandom random;
-  doSet(robot, sheets::hádanka::ShowStart(random));
-  rest(kPause);
-  const Process::Usage without = usageASecond(window.process(), seconds);
-  robot.forgetWindows();
-  robot.click(kReward);
-  robot.awaitWindow();
-  robot.movePointer({});
-  const Process::Usage with = usageASecond(window.process(), seconds);
-  print({"Piškôrky beyond their sheet: wake-ups a second", with.wakeUps - without.wakeUps, "", 10});
-  print({"Piškôrky beyond their sheet: of one core", (with.cpuSeconds - without.cpuSeconds) * 100,
-         "%", 0.5});
+  earnReward(robot, window, kHádanka, sheets::hádanka::ShowStart(random));
+  const Process::Usage usage = usageBeyondSheet(robot, window, seconds);
+  print({"Piškôrky beyond their sheet: wake-ups a second", usage.wakeUps, "", 10});
+  print({"Piškôrky beyond their sheet: of one core", usage.cpuSeconds * 100, "%", 0.5});
 }
 
 // A copy of the program with a maze of walls and ways in turn.
 std::filesystem::path withGreatMaze(const std::string& program) {
-  const std::filesystem::path folder =
-      std::filesystem::temp_directory_path() / "ratanka-great-maze";
+  std::filesystem::path folder = std::filesystem::temp_directory_path() / "ratanka-great-maze";
   std::filesystem::create_directories(folder);
   std::filesystem::copy_file(program, folder / "ratanka",
                              std::filesystem::copy_options::overwrite_existing);
@@ -80,10 +62,8 @@ void measureMaze(Robot& robot, const Programs& programs) {
   const std::filesystem::path folder = withGreatMaze(programs.ratanka.command.front());
   {
     const OpenWindow window(robot, {{folder / "ratanka"}, programs.ratanka.corner});
-    openSheet(robot, window);
     TwisterRandom random;
-    doSet(robot, sheets::malá::ShowStart(random));
-    rest(kPause);
+    earnReward(robot, window, kMalá, sheets::malá::ShowStart(random));
     const std::string before = robot.look(kSheetEdge);
     const Time called = std::chrono::steady_clock::now();
     robot.click(kReward);

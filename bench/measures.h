@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "programs.h"
 #include "robot.h"
 
@@ -14,6 +16,11 @@ void measureMemory(Robot& robot, const Programs& programs, int pairs);
 
 // A second of a process's life at rest, on the average over so many.
 Process::Usage usageASecond(const Process& process, int seconds);
+
+// Of a program whose sheet has earned its reward: opens the reward, plays it, and tells what a
+// second costs then beyond what it cost before.
+Process::Usage usageBeyondSheet(
+    Robot& robot, const OpenWindow& window, int seconds, const std::function<void()>& play = [] {});
 
 // What the program does while the child does nothing. Needs a window manager.
 void measureRest(Robot& robot, const Programs& programs, int seconds);
@@ -36,5 +43,10 @@ void measureGames(Robot& robot, const Programs& programs, int seconds);
 // What a match against the strongest computer costs beyond its sheet, how soon a key moves a
 // player, and how many ticks a second come. Needs a window manager.
 void measureSoccer(Robot& robot, const Programs& programs, int seconds);
+
+// What the falling blocks cost beyond their sheet, how soon a key moves a piece, and how evenly it
+// falls; the same cost of the puzzle and the piano, how soon their windows stand there, and how
+// long the first sound holds up its window. Needs a window manager.
+void measureBoards(Robot& robot, const Programs& programs, int seconds);
 
 }  // namespace ratanka::bench

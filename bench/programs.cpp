@@ -32,6 +32,12 @@ Area inRow(int row, const Area& inFirstRow) {
 
 }  // namespace
 
+Program withSound(const Program& program) {
+  Program result{{"env", "SDL_AUDIODRIVER=dummy"}, program.corner};
+  result.command.insert(result.command.end(), program.command.begin(), program.command.end());
+  return result;
+}
+
 Programs Programs::in(const std::string& folder) {
   return {.ratanka = {{folder + "/ratanka"}, {388, 241}},
           .bare = {{folder + "/bench/bare_window"}, {388, 241}},
@@ -64,6 +70,26 @@ void openSheet(Robot& robot, const OpenWindow& menu, int number) {
   robot.movePointer({});
   robot.awaitFocus(menu.process().id());
   rest(kSettled);
+}
+
+void earnReward(Robot& robot, const OpenWindow& menu, int number,
+                const sheets::Examples& examples) {
+  constexpr auto kNextSet = 3500ms;
+  openSheet(robot, menu, number);
+  for (const sheets::Example& example : examples) {
+    for (const char digit : std::to_string(example.Výsledok)) robot.strike(digitKey(digit));
+    robot.strike(Key::enter);
+    rest(60ms);
+  }
+  rest(kNextSet);
+}
+
+void clickAndAwaitWindow(Robot& robot, Point point) {
+  constexpr auto kOpening = 500ms;
+  robot.forgetWindows();
+  robot.click(point);
+  robot.awaitWindow();
+  rest(kOpening);
 }
 
 }  // namespace ratanka::bench

@@ -5,6 +5,7 @@
 
 #include "process.h"
 #include "robot.h"
+#include "sheets/rules/example.h"
 
 namespace ratanka::bench {
 
@@ -12,6 +13,9 @@ struct Program {
   std::vector<std::string> command;
   Point corner;  // upper left one of its first window
 };
+
+// The same with a sound device that nobody hears.
+Program withSound(const Program& program);
 
 // What is compared. All first windows are of one size and have a button at the same place.
 struct Programs {
@@ -46,6 +50,7 @@ inline constexpr Area kSheetEdge{{264, 613}, 60, 10};  // where no menu ever sta
 Area answerBox(int row);
 Area tick(int row);
 Area shownResult(int row);  // empty unless the answer was wrong
+inline constexpr Point kReward{244 + 348, 133 + 468};
 inline constexpr Point kFreshExamples{244 + 420, 133 + 460};
 inline constexpr Point kBackToMenu{244 + 476, 133 + 460};
 
@@ -59,5 +64,12 @@ inline constexpr Point kCardOk{332 + 181, 152 + 430};
 // Goes from the menu to a sheet, that of small sums unless told otherwise; returns when it stands
 // there and has the keyboard.
 void openSheet(Robot& robot, const OpenWindow& menu, int number = 0);
+
+// Goes to a sheet and does a set of it with all answers right; returns when the next set has come,
+// and the reward can be had for as long as one likes.
+void earnReward(Robot& robot, const OpenWindow& menu, int number, const sheets::Examples& examples);
+
+// Clicks, and returns when a window has come up and has settled.
+void clickAndAwaitWindow(Robot& robot, Point point);
 
 }  // namespace ratanka::bench

@@ -17,6 +17,17 @@ Process::Usage usageASecond(const Process& process, int seconds) {
           .cpuSeconds = (after.cpuSeconds - before.cpuSeconds) / seconds};
 }
 
+Process::Usage usageBeyondSheet(Robot& robot, const OpenWindow& window, int seconds,
+                                const std::function<void()>& play) {
+  const Process::Usage without = usageASecond(window.process(), seconds);
+  clickAndAwaitWindow(robot, kReward);
+  play();
+  robot.movePointer({});
+  const Process::Usage with = usageASecond(window.process(), seconds);
+  return {.wakeUps = with.wakeUps - without.wakeUps,
+          .cpuSeconds = with.cpuSeconds - without.cpuSeconds};
+}
+
 void measureRest(Robot& robot, const Programs& programs, int seconds) {
   const OpenWindow window(robot, programs.ratanka);
   const Process::Usage menu = usageASecond(window.process(), seconds);

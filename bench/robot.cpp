@@ -80,9 +80,10 @@ Time Robot::awaitChange(const Area& area, const std::string& before) const {
   return steady_clock::now();
 }
 
-void Robot::awaitLook(const Area& area, const std::string& wanted) const {
+Time Robot::awaitLook(const Area& area, const std::string& wanted) const {
   awaitUntil(
-      "a picture as before", [&] { return look(area) == wanted; }, kPace);
+      "a known picture", [&] { return look(area) == wanted; }, kPixelPace);
+  return steady_clock::now();
 }
 
 unsigned long Robot::property(unsigned long window, const char* name) const {
@@ -111,6 +112,20 @@ void Robot::awaitFocus(pid_t process) const {
     return window != 0 && property(window, "_NET_WM_PID") == static_cast<unsigned long>(process);
   };
   awaitUntil("the keyboard's focus", hasFocus, kPace);
+}
+
+Area Robot::activeWindow() const {
+  Window active = 0;
+  int revert = 0;
+  XGetInputFocus(display_, &active, &revert);
+  Area area;
+  Window child = 0;
+  XTranslateCoordinates(display_, active, root_, 0, 0, &area.at.x, &area.at.y, &child);
+  XWindowAttributes attributes{};
+  XGetWindowAttributes(display_, active, &attributes);
+  area.width = attributes.width;
+  area.height = attributes.height;
+  return area;
 }
 
 Time Robot::sendKey(Key key, bool isDown) {

@@ -58,11 +58,14 @@ class Robot {
 
   // Returns as soon as the area doesn't look like `before`, at most a tenth of a millisecond late.
   Time awaitChange(const Area& area, const std::string& before) const;
-  void awaitLook(const Area& area, const std::string& wanted) const;
+  // The same, as soon as it does look like `wanted`.
+  Time awaitLook(const Area& area, const std::string& wanted) const;
 
   void awaitWindowManager() const;
   // Waits until a window of the process has the keyboard.
   void awaitFocus(pid_t process) const;
+  // The place of the window that has the keyboard.
+  Area activeWindow() const;
 
   void press(Key key);
   // Returns the moment right before the display was told.

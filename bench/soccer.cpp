@@ -1,10 +1,9 @@
-#include <X11/Xlib.h>
-
 #include <filesystem>
 #include <string>
 
 #include "figure.h"
 #include "measures.h"
+#include "sheets/rules/products.h"
 
 namespace ratanka::bench {
 namespace {
@@ -12,9 +11,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int kDivision = 3;  // its button in the menu
-constexpr Point kReward{244 + 348, 133 + 468};
-constexpr auto kPause = 3500ms;  // until the next set has come
-constexpr auto kOpening = 500ms;
 
 // In the title and in the choice of an opponent.
 constexpr Point kAgainstComputer{312, 206};
@@ -24,50 +20,16 @@ constexpr int kPitchHeight = 551;  // of the window, what lies beneath the menu
 constexpr Area kBlueAtStart{{728, 264}, 33, 33};
 constexpr auto kNewMatch = static_cast<Key>(0xffbe);  // F1
 
-// The place of the window that has the keyboard.
-Area activeWindow() {
-  Display* const display = XOpenDisplay(nullptr);
-  Window active = 0;
-  int revert = 0;
-  XGetInputFocus(display, &active, &revert);
-  Area area;
-  Window child = 0;
-  XTranslateCoordinates(display, active, DefaultRootWindow(display), 0, 0, &area.at.x, &area.at.y,
-                        &child);
-  XWindowAttributes attributes{};
-  XGetWindowAttributes(display, active, &attributes);
-  XCloseDisplay(display);
-  area.width = attributes.width;
-  area.height = attributes.height;
-  return area;
-}
-
-void clickAndAwaitWindow(Robot& robot, Point point) {
-  robot.forgetWindows();
-  robot.click(point);
-  robot.awaitWindow();
-  rest(kOpening);
-}
-
 void clickInActive(Robot& robot, Point inside) {
-  const Area area = activeWindow();
+  const Area area = robot.activeWindow();
   clickAndAwaitWindow(robot, {area.at.x + inside.x, area.at.y + inside.y});
-}
-
-void doDivisions(Robot& robot) {
-  for (const char quotient : std::string("121314215")) {
-    robot.strike(digitKey(quotient));
-    robot.strike(Key::enter);
-    rest(60ms);
-  }
-  rest(kPause);
 }
 
 // From an arrow key to Blue's first painted step. Each sample has a match of its own, in whose
 // first moments nobody else comes near him.
 void measureKey(Robot& robot) {
   constexpr int kSamples = 100;
-  const Area match = activeWindow();
+  const Area match = robot.activeWindow();
   const Area blue = shifted(kBlueAtStart, {match.at.x, match.at.y + match.height - kPitchHeight});
   robot.strike(kNewMatch);
   rest(100ms);
@@ -88,17 +50,13 @@ void measureKey(Robot& robot) {
 
 void measureMatch(Robot& robot, const Programs& programs, int seconds) {
   const OpenWindow window(robot, programs.ratanka);
-  openSheet(robot, window, kDivision);
-  doDivisions(robot);
-  const Process::Usage without = usageASecond(window.process(), seconds);
-  clickAndAwaitWindow(robot, kReward);
-  clickInActive(robot, kAgainstComputer);
-  clickInActive(robot, kBelko);
-  robot.movePointer({});
-  const Process::Usage with = usageASecond(window.process(), seconds);
-  print({"a match at level 5 beyond its sheet: wake-ups a second", with.wakeUps - without.wakeUps});
-  print({"a match at level 5 beyond its sheet: of one core",
-         (with.cpuSeconds - without.cpuSeconds) * 100, "%", 8});
+  earnReward(robot, window, kDivision, sheets::delenie::ShowStart());
+  const Process::Usage usage = usageBeyondSheet(robot, window, seconds, [&] {
+    clickInActive(robot, kAgainstComputer);
+    clickInActive(robot, kBelko);
+  });
+  print({"a match at level 5 beyond its sheet: wake-ups a second", usage.wakeUps});
+  print({"a match at level 5 beyond its sheet: of one core", usage.cpuSeconds * 100, "%", 8});
   measureKey(robot);
 }
 

@@ -38,7 +38,6 @@ frmKockovka::frmKockovka(Forms& forms, const Clock& clock, Random& random, Sound
                    .pictureSize = {296, 310},
                    .hasMenu = true}),
       sound_(sound),
-      options_(options),
       game_(options, *this, clock, random) {}
 
 void frmKockovka::build() {
@@ -134,7 +133,7 @@ void frmKockovka::Form_Resize() {
 
 void frmKockovka::Form_Unload() {
   game_.endGame();
-  if (options_.playsSounds()) sound_.closeMusic();
+  sound_.closeMusic();
 }
 
 void frmKockovka::mnuOptions_Click() {
@@ -190,17 +189,17 @@ void frmKockovka::MusicOpenAndPlay() {
 
 void frmKockovka::letEventsThrough() {
   ratanka::letEventsThrough();
-  endWithTheWindow();
+  endWithTheProgram();
 }
 
 void frmKockovka::awaitEvents(double seconds) {
   ratanka::awaitEvents(seconds);
-  endWithTheWindow();
+  endWithTheProgram();
 }
 
-// An ended program unloads nothing, and a form that isn't loaded has no game.
-void frmKockovka::endWithTheWindow() {
-  if (forms().isEnding() || !isLoaded()) game_.endGame();
+// An ended program unloads nothing.
+void frmKockovka::endWithTheProgram() {
+  if (forms().isEnding()) game_.endGame();
 }
 
 }  // namespace ratanka::blocks

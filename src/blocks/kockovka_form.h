@@ -50,10 +50,9 @@ class frmKockovka : public Form, private Stage {
   void MusicClose() override { sound_.closeMusic(); }
   void letEventsThrough() override;
   void awaitEvents(double seconds) override;
-  void endWithTheWindow();
+  void endWithTheProgram();
 
   Sound& sound_;
-  const Options& options_;
   Kockovka game_;
   Well drawn_;  // what the board shows
   int next_ = 0;

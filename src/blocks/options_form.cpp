@@ -23,7 +23,7 @@ frmOptions::frmOptions(Forms& forms, Dialogs& dialogs, Options& options, QString
                    .width = 4200,
                    .height = 2400,
                    .back = kCard,
-                   .canMinimise = false}),
+                   .isDialog = true}),
       dialogs_(dialogs),
       options_(options),
       settingsFile_(std::move(settingsFile)) {}
@@ -43,9 +43,14 @@ void frmOptions::build() {
   chkPlaySounds_ = addCheckBox(
       client(),
       {.name = "chkPlaySounds", .place = {300, 1200, 3600, 330}, .caption = "Zapnúť zvuk"});
-  cmdOk_ = addButton(client(), {.name = "cmdOk", .place = {780, 1740, 1260, 450}, .caption = "OK"});
-  command1_ = addButton(
-      client(), {.name = "Command1", .place = {2160, 1740, 1260, 450}, .caption = "Zrušiť"});
+  const auto addPush = [this](const char* name, int left, const char* caption) {
+    return addButton(client(), {.name = name,
+                                .place = {left, 1740, 1260, 450},
+                                .caption = caption,
+                                .type = {.points = 9.75}});
+  };
+  cmdOk_ = addPush("cmdOk", 780, "OK");
+  command1_ = addPush("Command1", 2160, "Zrušiť");
   on(txtStartingLevel_, &TextBox::lostFocus, [this] { txtStartingLevel_LostFocus(); });
   for (QAbstractButton* const button :
        std::initializer_list<QAbstractButton*>{chkFillLines_, chkPlaySounds_, cmdOk_, command1_}) {
@@ -83,10 +88,10 @@ void frmOptions::Form_KeyDown(int keyCode) {
 
 void frmOptions::txtStartingLevel_LostFocus() {
   if (!isOpen_) return;
-  if (QApplication::mouseButtons() == Qt::NoButton) {
-    checkLevel();
-  } else {
+  if (QApplication::mouseButtons().testFlag(Qt::LeftButton)) {
     isCheckDue_ = true;
+  } else {
+    checkLevel();
   }
 }
 

@@ -45,7 +45,8 @@ void Klavír::build() {
   };
   line("Line1", kFrame.left, kFrame.top, kFrame.right, kFrame.top);
   line("Line2", kFrame.left, kFrame.top, kFrame.left, kFrame.bottom);
-  line("Line3", kFrame.right, kFrame.top, kFrame.right, kFrame.bottom);
+  // A line leaves its last pixel out.
+  line("Line3", kFrame.right, kFrame.top, kFrame.right, kFrame.bottom + kTwipsPerPixel);
   line("Line4", kFrame.left, kFrame.bottom, kFrame.right, kFrame.bottom);
   buildKeys();
   buildVolume();
@@ -65,15 +66,14 @@ void Klavír::buildKeys() {
 }
 
 void Klavír::buildVolume() {
-  ReversedScrollBar* const vol = addReversedScrollBar(client(), {.name = "vol",
-                                                                 .place = {720, 2520, 1695, 255},
-                                                                 .left = kMaxVolume,
-                                                                 .right = 0,
-                                                                 .value = kMaxVolume,
-                                                                 .accessibleName = "Hlasitosť"});
-  vol->setPageStep(kPageOfVolume);
-  on(vol, &QScrollBar::valueChanged, [this] { vol_Change(); });
-  vol_ = vol;
+  vol_ = addReversedScrollBar(client(), {.name = "vol",
+                                         .place = {720, 2520, 1695, 255},
+                                         .left = kMaxVolume,
+                                         .right = 0,
+                                         .value = kMaxVolume,
+                                         .accessibleName = "Hlasitosť"});
+  vol_->setPageStep(kPageOfVolume);
+  on(vol_, &QScrollBar::valueChanged, [this] { vol_Change(); });
   addImage(client(), {.name = "Image1", .place = {2640, 2400, 480, 480}, .picture = "piano-note"});
   addLabel(client(), {.name = "Label1",
                       .place = {3360, 2520, 1800, 300},
@@ -170,7 +170,8 @@ void Klavír::refresh() {
   for (std::size_t index = 0; index < device_.size(); ++index) {
     QAction& item = *device_.at(index);
     item.setVisible(index < names.size());
-    if (index < names.size()) item.setText(ratanka::text(names.at(index)));
+    // An "&" would underline a letter.
+    if (index < names.size()) item.setText(ratanka::text(names.at(index)).replace("&", "&&"));
     item.setChecked(static_cast<int>(index) == piano_.curDevice() + 1);
   }
   for (std::size_t index = 0; index < chan_.size(); ++index) {

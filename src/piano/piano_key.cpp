@@ -34,10 +34,12 @@ class PianoKey : public QAbstractButton {
 
  protected:
   void mousePressEvent(QMouseEvent*) override { whenTouched_(true); }
-  void mouseMoveEvent(QMouseEvent*) override {}
   void mouseReleaseEvent(QMouseEvent*) override { whenTouched_(false); }
-  // Two quick presses are two presses.
-  void mouseDoubleClickEvent(QMouseEvent* event) override { mousePressEvent(event); }
+  // A listener's program presses keys without a mouse.
+  void nextCheckState() override {
+    whenTouched_(true);
+    whenTouched_(false);
+  }
 
   void paintEvent(QPaintEvent*) override {
     constexpr qreal kCorner = 4;

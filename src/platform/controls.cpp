@@ -58,6 +58,21 @@ QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
   return {event.type(), key, event.modifiers(), event.text(), event.isAutoRepeat()};
 }
 
+// Turns with the wheel only while it has the keyboard, not for a pointer that passes by.
+class ComboBox : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void wheelEvent(QWheelEvent* event) override {
+    if (hasFocus()) {
+      QComboBox::wheelEvent(event);
+    } else {
+      event->ignore();
+    }
+  }
+};
+
 // Whether all of it could be on the screen at once. Only X11 tells where a window stands.
 bool isWithinScreen(const QWidget& widget) {
   if (QGuiApplication::platformName() != "xcb") return true;
@@ -281,7 +296,7 @@ QCheckBox* addCheckBox(QWidget& form, const CheckBoxDesign& design) {
 }
 
 QComboBox* addComboBox(QWidget& form, const ComboBoxDesign& design) {
-  auto* const box = new QComboBox(&form);
+  auto* const box = new ComboBox(&form);
   setUp(*box, design.name, design.place);
   box->addItems(design.items);
   box->setCurrentIndex(design.chosen);

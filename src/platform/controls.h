@@ -34,7 +34,8 @@ struct LabelDesign {
   Type type{};
   Rgb fore = kInkColour;
   std::optional<Rgb> back{};  // none: what lies behind shows through
-  std::optional<Rgb> rim{};   // round each letter, where what lies behind would swallow it
+  // Round each letter, where what lies behind would swallow it; the text then stands in the middle.
+  std::optional<Rgb> rim{};
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignTop;
   QString tooltip{};
 };

@@ -32,6 +32,7 @@ struct FormDesign {
   bool takesKeyboard = true;
   bool hasMenu = false;  // a bar of menus above the client area
   bool canMinimise = true;
+  bool isDialog = false;  // shown modally: stays before the others and can't be put away
 };
 
 // One form of the program: its variables live in the object, its controls in a window that comes

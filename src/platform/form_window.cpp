@@ -33,15 +33,21 @@ bool movesByItself(QWindow& window) {
   return QGuiApplication::platformName() != "xcb" && window.startSystemMove();
 }
 
+// Which key of the keyboard it is, whatever it types.
+quint32 placeOf(const QKeyEvent& event) {
+  const quint32 scanCode = event.nativeScanCode();
+  return scanCode != 0 ? scanCode : static_cast<quint32>(event.key());
+}
+
 }  // namespace
 
 FormWindow::FormWindow(Form& form, const FormDesign& design) : form_(&form), design_(design) {
   setObjectName(text(design.name.text()));
   setWindowTitle(design.caption);
-  Qt::WindowFlags flags = Qt::Window;
+  Qt::WindowFlags flags = design.isDialog ? Qt::Dialog : Qt::Window;
   if (!design.hasBorder) flags |= Qt::FramelessWindowHint;
   if (!design.takesKeyboard) flags |= Qt::WindowDoesNotAcceptFocus;
-  if (!design.canMinimise) {
+  if (!design.canMinimise || design.isDialog) {
     flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
              Qt::WindowCloseButtonHint;
   }
@@ -73,16 +79,17 @@ void FormWindow::setModal(bool modal) {
   if (!modal) return;
   create();
   const QWidget* const beneath = QApplication::activeWindow();
-  const bool hasBeneath = beneath != nullptr && beneath != this;
+  const bool hasBeneath = beneath != nullptr && beneath != this && beneath->isVisible();
   windowHandle()->setTransientParent(hasBeneath ? beneath->windowHandle() : nullptr);
 }
 
 void FormWindow::waitUntilHidden() {
   if (!isVisible()) return;
   QEventLoop loop;
-  waiting_ = &loop;
+  QEventLoop* const outer = std::exchange(waiting_, &loop);
   loop.exec();
-  waiting_ = nullptr;
+  waiting_ = outer;
+  if (outer != nullptr && !isVisible()) outer->quit();
 }
 
 void FormWindow::cutTo(const QPolygon& outline) {
@@ -145,7 +152,10 @@ void FormWindow::changeEvent(QEvent* event) {
 
 bool FormWindow::event(QEvent* event) {
   const bool isHeard = isVisible() && design_.takesKeyboard;
-  if (isHeard && event->type() == QEvent::WindowDeactivate) tell(&Form::keyboardLeaves);
+  if (isHeard && event->type() == QEvent::WindowDeactivate) {
+    heldKeys_.clear();
+    tell(&Form::keyboardLeaves);
+  }
   if (isHeard && event->type() == QEvent::WindowActivate && form_ != nullptr) {
     form_->forms_.formBecameActive(*form_);
   }
@@ -159,14 +169,39 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   if (form_ == nullptr || form_->hasEnded() || QApplication::activePopupWidget() != nullptr) {
     return false;
   }
-  const auto& keyEvent = *static_cast<QKeyEvent*>(event);
+  // So has a bar that the Alt key has woken.
+  if (isPress && menuBar_ != nullptr && menuBar_->hasFocus()) return false;
   const Form::HandlerScope scope(*form_);
   if (isPress) {
-    form_->Form_KeyDown(keyCode(keyEvent));
-  } else if (!keyEvent.isAutoRepeat()) {
-    form_->Form_KeyUp(keyCode(keyEvent));
+    keyWentDown(*static_cast<QKeyEvent*>(event));
+  } else {
+    keyCameUp(*static_cast<QKeyEvent*>(event));
   }
   return false;
+}
+
+// A repeat of a key that went down elsewhere, before this window came up, isn't for it: the Esc
+// that left a match must not end the program on the title. Where the keyboard changes windows, X11
+// breaks a repeat into a release and a press of the same time.
+void FormWindow::keyWentDown(const QKeyEvent& event) {
+  const quint32 place = placeOf(event);
+  const bool isBroken =
+      event.nativeScanCode() != 0 && form_->forms_.isLastKeyUp(place, event.timestamp());
+  if (isBroken || (event.isAutoRepeat() && !heldKeys_.contains(place))) return;
+  const int code = keyCode(event);
+  heldKeys_[place] = code;
+  form_->Form_KeyDown(code);
+}
+
+// A key comes up as what it went down as: Shift and AltGr may have come or gone meanwhile.
+void FormWindow::keyCameUp(const QKeyEvent& event) {
+  if (event.isAutoRepeat()) return;
+  const quint32 place = placeOf(event);
+  const auto held = heldKeys_.find(place);
+  const int code = held == heldKeys_.end() ? keyCode(event) : held->second;
+  if (held != heldKeys_.end()) heldKeys_.erase(held);
+  form_->forms_.setLastKeyUp(place, event.timestamp());
+  form_->Form_KeyUp(code);
 }
 
 void FormWindow::tell(void (Form::*happening)()) {

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QPolygon>
 #include <QWidget>
+#include <map>
 #include <optional>
 
 #include "platform/form.h"
@@ -50,15 +51,18 @@ class FormWindow : public QWidget {
  private:
   void paintBackground(QPainter& painter);
   void tell(void (Form::*happening)());
+  void keyWentDown(const QKeyEvent& event);
+  void keyCameUp(const QKeyEvent& event);
 
   Form* form_;
   const FormDesign design_;
   QMenuBar* menuBar_ = nullptr;  // these two only where there are menus
   QWidget* client_ = nullptr;
   QEventLoop* waiting_ = nullptr;
-  QPolygon outline_;            // empty where the window isn't cut
-  QPainterPath outside_;        // what a smooth cut takes away; empty where there is none
-  std::optional<QPoint> grip_;  // where the window is held, while we move it
+  std::map<quint32, int> heldKeys_;  // by their place: the codes that they went down as
+  QPolygon outline_;                 // empty where the window isn't cut
+  QPainterPath outside_;             // what a smooth cut takes away; empty where there is none
+  std::optional<QPoint> grip_;       // where the window is held, while we move it
 };
 
 }  // namespace ratanka

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
+#include <utility>
 
 #include "platform/form_name.h"
 
@@ -57,6 +59,10 @@ class Forms {
   void handlerStarted() { ++handlersRunning_; }
   void handlerReturned();
   void loadAnd(FormName name, void (Form::*display)());
+  void setLastKeyUp(std::uint32_t place, std::uint64_t time) { lastKeyUp_ = {place, time}; }
+  bool isLastKeyUp(std::uint32_t place, std::uint64_t time) const {
+    return lastKeyUp_ == std::pair{place, time};
+  }
   void formBecameActive(Form& form);
   void formLeft(const Form& form);
 
@@ -64,6 +70,7 @@ class Forms {
   std::map<FormName, Maker> makers_;
   std::map<FormName, std::shared_ptr<Form>> forms_;
   const Form* active_ = nullptr;  // the form that had the keyboard last
+  std::pair<std::uint32_t, std::uint64_t> lastKeyUp_;
   int handlersRunning_ = 0;
   bool isEnding_ = false;
 };

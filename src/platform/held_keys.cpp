@@ -35,14 +35,15 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
     return false;
   }
 
-  if (keyEvent->isAutoRepeat() || !down_.contains(keyEvent->key())) return false;
+  if (!down_.contains(keyEvent->key())) return false;
+  if (keyEvent->isAutoRepeat()) return true;  // still the press that the box has seen
   if (!isPress) {
     upAt_ = keyEvent->timestamp();
     return true;
   }
   // Where the keyboard changes windows, X11 breaks a repeat into a release and a press of the same
   // time: the key is still down.
-  if (upAt_ == keyEvent->timestamp()) return false;
+  if (upAt_ == keyEvent->timestamp()) return true;
   down_.erase(keyEvent->key());
   if (down_.empty()) QCoreApplication::instance()->removeEventFilter(this);
   return false;

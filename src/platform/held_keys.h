@@ -9,7 +9,8 @@ namespace ratanka {
 // released over an answer box, and must not be taken there for an answer.
 //
 // While a box is open it notes which keys go down and up in the program. After the box it
-// swallows the release of each that is still down, and a fresh press ends the waiting.
+// swallows the repeats and the release of each that is still down, and a fresh press ends the
+// waiting.
 class HeldKeys : public QObject {
  public:
   void boxOpened();

@@ -10,8 +10,8 @@ void writeIniValues(const QString& path, std::string_view section,
                     std::span<const IniValue> values) {
   constexpr qint64 kMaxBytes = 1 << 20;  // more than that isn't a file of ours
   std::string content;
-  if (QFile file(path); file.open(QIODevice::ReadOnly)) {
-    if (file.size() > kMaxBytes) return;
+  if (QFile file(path); file.exists()) {
+    if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxBytes) return;
     content = file.readAll().toStdString();
   }
   for (const IniValue& value : values)

@@ -94,7 +94,8 @@ std::optional<char> digitOfRow(const QKeyEvent& event) {
 }
 
 int keyCode(const QKeyEvent& event) {
-  const int place = codeOfPlace(event.nativeScanCode());
+  const bool isLetter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+  const int place = isLetter ? key::kNone : codeOfPlace(event.nativeScanCode());
   return place != key::kNone ? place : codeOfSign(event.key());
 }
 

@@ -6,17 +6,7 @@
 
 namespace ratanka {
 
-// A horizontal scroll bar whose greatest value is at its left end. Its keys, arrows and trough move
-// the thumb the way that the child sees.
-class ReversedScrollBar : public QScrollBar {
- public:
-  explicit ReversedScrollBar(QWidget* parent);
-
- protected:
-  void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
-};
-
+// A horizontal scroll bar whose greatest value is at its left end.
 struct ScrollBarDesign {
   QString name;
   Place place;
@@ -25,6 +15,6 @@ struct ScrollBarDesign {
   int value = 0;
   QString accessibleName{};
 };
-ReversedScrollBar* addReversedScrollBar(QWidget& form, const ScrollBarDesign& design);
+QScrollBar* addReversedScrollBar(QWidget& form, const ScrollBarDesign& design);
 
 }  // namespace ratanka

@@ -43,6 +43,7 @@ void frmPuzzle::build() {
   buildChoice();
   buildMenu();
   timer1_ = timer("Timer1", 1000, [this] { Timer1_Timer(); });
+  timer1_->setImpatient();  // no time to think under the list
 }
 
 void frmPuzzle::buildBoard() {
@@ -144,7 +145,6 @@ void frmPuzzle::play(std::string_view wave) {
 }
 
 void frmPuzzle::refresh() {
-  if (!isLoaded()) return;
   window().setWindowTitle(ratanka::text(game_.caption()));
   cmdShuffle_->setText(ratanka::text(game_.shuffleCaption()));
   for (int index = 0; index < kButtons; ++index) refreshTile(index);
@@ -155,8 +155,7 @@ void frmPuzzle::refreshTile(int index) {
   constexpr double kPointsOfSide = 0.3;  // figures take two fifths of a tile
   const Board& board = game_.board();
   Button& tile = *cmdButton_.at(static_cast<std::size_t>(index));
-  const std::string caption = board.caption(index);
-  tile.setText(ratanka::text(caption));
+  tile.setText(ratanka::text(board.caption(index)));
   tile.setVisible(board.isVisible(index));
   if (!board.isVisible(index)) return;
   const TileArea area = tileArea(board.Size(), index);
@@ -164,7 +163,7 @@ void frmPuzzle::refreshTile(int index) {
     tile.setFont(font({.points = kPointsOfSide * area.side, .bold = true}));
   }
   tile.setGeometry(area.left, area.top, area.side, area.side);
-  const int row = (std::stoi(caption) - 1) / board.Size();
+  const int row = (board.number(index) - 1) / board.Size();
   setFace(tile, kRowColours.at(static_cast<std::size_t>(row)));
 }
 

@@ -179,20 +179,20 @@ void MatchForm::hold(int keyCode, bool isDown) {
 
 void MatchForm::tmrMovePlayers_Timer() {
   match_.tmrMovePlayers();
-  put(*red_, match_.Red);
-  put(*blue_, match_.Blue);
+  refreshPieces();
 }
 
 void MatchForm::tmrMoveBall_Timer() {
   const bool isGoal = match_.tmrMoveBall();
-  if (isGoal) kickedOff();
+  refreshPieces();
+  if (!isGoal) return;
+  kickedOff();
   refresh();
 }
 
 void MatchForm::tmrCountdown_Timer() {
-  const bool wasPaused = match_.isPaused;
+  if (match_.isPaused) return;
   const bool isOver = match_.tmrCountdown(declarations_);
-  if (wasPaused) return;
   tmrCountdown_->setInterval(kSecond);
   refresh();
   if (!isOver) return;
@@ -232,10 +232,14 @@ void MatchForm::startCountdown() {
   tmrCountdown_->setEnabled(true);
 }
 
-void MatchForm::refresh() {
+void MatchForm::refreshPieces() {
   put(*red_, match_.Red);
   put(*blue_, match_.Blue);
   put(*ball_, match_.Ball);
+}
+
+void MatchForm::refresh() {
+  refreshPieces();
   showScore(*redGoals_, match_.RedGoals, false);
   showScore(*blueGoals_, match_.BlueGoals, true);
   lblTime_->setText(ratanka::text(clockText()));

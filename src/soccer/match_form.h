@@ -67,6 +67,7 @@ class MatchForm : public Form {
   void mnuPause_Click();
   void mnuExit_Click();
   void startCountdown();
+  void refreshPieces();
   void refresh();
 
   Dialogs& dialogs_;

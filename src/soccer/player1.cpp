@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "platform/controls.h"
+#include "platform/forms.h"
 #include "platform/keys.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
@@ -19,10 +20,12 @@ constexpr PlayerKey kKeys[] = {{key::kLeft, &Match::blueHeld, &Held::left},
                                {key::kDown, &Match::blueHeld, &Held::down}};
 
 // Letting one of these go takes a direction of the computer back, until its next decision.
-constexpr PlayerKey kCancels[] = {{'A', &Match::redHeld, &Held::left},
-                                  {'D', &Match::redHeld, &Held::right},
-                                  {'W', &Match::redHeld, &Held::up},
-                                  {'S', &Match::redHeld, &Held::down}};
+struct Cancel {
+  int code;
+  bool Held::*direction;
+};
+constexpr Cancel kCancels[] = {
+    {'A', &Held::left}, {'D', &Held::right}, {'W', &Held::up}, {'S', &Held::down}};
 
 constexpr Rgb kWhite{255, 255, 255};
 
@@ -67,6 +70,8 @@ void frmPlayer1::build() {
   timer("ComputerBrain", 1, [this] { ComputerBrain_Timer(); })->setEnabled(true);
 }
 
+void frmPlayer1::Form_Unload() { forms().drop(names::frmPlayer1); }
+
 void frmPlayer1::Form_Activate() {
   const std::string name(opponentName(declarations().OpponentIndex));
   lblOpponent_->setText(ratanka::text("Súper : " + name));
@@ -85,8 +90,8 @@ void frmPlayer1::Form_KeyDown(int keyCode) {
 
 void frmPlayer1::Form_KeyUp(int keyCode) {
   if (keyCode == key::kControl) lblDirection_->hide();
-  for (const PlayerKey& cancel : kCancels) {
-    if (cancel.code == keyCode) match().*cancel.player.*cancel.direction = false;
+  for (const Cancel& cancel : kCancels) {
+    if (cancel.code == keyCode) match().redHeld.*cancel.direction = false;
   }
   MatchForm::Form_KeyUp(keyCode);
 }

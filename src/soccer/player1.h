@@ -16,6 +16,7 @@ class frmPlayer1 : public MatchForm {
 
  protected:
   void build() override;
+  void Form_Unload() override;
   void Form_Activate() override;
   void Form_KeyDown(int keyCode) override;
   void Form_KeyUp(int keyCode) override;

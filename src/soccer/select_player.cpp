@@ -30,7 +30,8 @@ frmSelectPlayer::frmSelectPlayer(Forms& forms, Declarations& declarations)
                    .caption = "Výber protihráča",
                    .width = 7200,
                    .height = 1725,
-                   .back = kInkColour}),
+                   .back = kInkColour,
+                   .isDialog = true}),
       declarations_(declarations) {}
 
 void frmSelectPlayer::build() {

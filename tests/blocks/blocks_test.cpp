@@ -117,7 +117,8 @@ TEST_F(BlocksTest, AGameIsSeenAndSteeredInItsWindow) {
               EXPECT_EQ(boardPixel(4, 1), QColor(192, 192, 192));
               EXPECT_FALSE(item("mnuNewGame")->isEnabled());
               EXPECT_TRUE(item("mnuPause")->isEnabled());
-              strike(Qt::Key_F2);  // a second game can't begin
+              QWidget* const next = control<QWidget>(kGame, "picNext");
+              EXPECT_EQ(next->grab().toImage().pixelColor(37, 21), QColor(170, 43, 213));
             },
             [] { strike(Qt::Key_Left); },
             [this] {
@@ -132,7 +133,22 @@ TEST_F(BlocksTest, AGameIsSeenAndSteeredInItsWindow) {
             }});
   EXPECT_TRUE(item("mnuNewGame")->isEnabled());
   EXPECT_FALSE(item("mnuPause")->isEnabled());
-  EXPECT_TRUE(sound.played.empty());  // off at first
+  EXPECT_EQ(sound.played, (std::vector<std::string>{}));  // off at first
+
+  // A window that comes up anew shows nothing of the old game.
+  window(kGame)->close();
+  forms.show(kGame);
+  EXPECT_EQ(boardPixel(4, 18), QColor(192, 192, 192));
+}
+
+TEST_F(BlocksTest, SoundsAreSwitchedOnAndOffInMidGame) {
+  playGame({[] {}, [this] { options.PlaySounds = true; }, [] {},
+            [this] { options.PlaySounds = false; }, [] {},
+            [this] {
+              EXPECT_EQ(sound.played.front(), "open Tetris.mid");
+              EXPECT_EQ(sound.played.back(), "close");
+              item("mnuEndGame")->trigger();
+            }});
 }
 
 TEST_F(BlocksTest, APauseShowsInTheCaptionAndEndsByItsKey) {
@@ -266,6 +282,15 @@ TEST_F(BlocksTest, ABadLevelIsToldOnceAndTheOldOneComesBack) {
       EXPECT_EQ(options.StartingLevel, 4);
     }
   }
+}
+
+TEST_F(BlocksTest, AnyMouseButtonThatLeavesABadLevelBringsItsBox) {
+  dialogs.expect("Rátanka - hra TETRIS");
+  openOptions([] {
+    type("abc");
+    QTest::mouseClick(control<QCheckBox>(kDialog, "chkFillLines"), Qt::RightButton);
+    strike(Qt::Key_Return);
+  });
 }
 
 TEST_F(BlocksTest, OptionsPauseAGame) {

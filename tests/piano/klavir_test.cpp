@@ -5,10 +5,11 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QMenu>
+#include <QScrollBar>
 #include <utility>
 
 #include "form_driver.h"
-#include "platform/scroll_bar.h"
+#include "platform/held_keys.h"
 #include "shell/names.h"
 
 namespace ratanka::piano {
@@ -84,6 +85,38 @@ TEST_F(KlavírTest, AHeldKeySoundsOnce) {
   EXPECT_EQ(calls(), "003E80 ");
 }
 
+TEST_F(KlavírTest, AKeyHeldThroughABoxDoesNotHang) {
+  open();
+  const auto send = [](FormName to, QEvent::Type type, bool repeats, quint64 time) {
+    QKeyEvent event(type, Qt::Key_Z, Qt::NoModifier, "z", repeats);
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(window(to)->windowHandle(), &event);
+  };
+  HeldKeys held;
+  send(kPiano, QEvent::KeyPress, false, 1);
+  activate(*window(kSheet));  // stands for the box
+  held.boxOpened();
+  send(kSheet, QEvent::KeyPress, true, 2);
+  held.boxClosed();
+  activate(*window(kPiano));
+  send(kPiano, QEvent::KeyPress, true, 3);
+  send(kPiano, QEvent::KeyRelease, false, 4);
+  EXPECT_EQ(keysDown(), ".................");
+}
+
+TEST_F(KlavírTest, AKeyComesUpAsWhatItWentDownAs) {
+  open();
+  // On a Slovak keyboard AltGr, pressed meanwhile, turns X into "#".
+  constexpr quint32 kPlace = 53;
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_X, Qt::NoModifier, kPlace, 0x78, 0, "x");
+  QKeyEvent up(QEvent::KeyRelease, Qt::Key_NumberSign, Qt::GroupSwitchModifier, kPlace, 0x23, 0);
+  for (QKeyEvent* const event : {&down, &up}) {
+    QCoreApplication::sendEvent(window(kPiano)->windowHandle(), event);
+  }
+  EXPECT_EQ(keysDown(), ".................");
+  EXPECT_EQ(calls(), "7F3E90 003E80 ");
+}
+
 TEST_F(KlavírTest, NoKeyHangsWhenSomethingTakesTheKeyboard) {
   open();
   press(Qt::Key_Z);
@@ -148,16 +181,19 @@ TEST_F(KlavírTest, TheBaseNoteIsAskedFor) {
 
 TEST_F(KlavírTest, TheVolumeIsLoudestAtTheLeft) {
   open();
-  auto* const vol = control<ReversedScrollBar>(kPiano, "vol");
+  auto* const vol = control<QScrollBar>(kPiano, "vol");
   EXPECT_EQ(vol->value(), 127);
   EXPECT_EQ(vol->minimum(), 0);
   QTest::mouseClick(vol, Qt::LeftButton, {}, {vol->width() * 3 / 4, vol->height() / 2});
   EXPECT_EQ(vol->value(), 127 - vol->pageStep());
-  vol->setFocus();
+  EXPECT_TRUE(vol->hasFocus());
   strike(Qt::Key_Right);
   EXPECT_EQ(vol->value(), 126 - vol->pageStep());
   strike(Qt::Key_Left);
   EXPECT_EQ(vol->value(), 127 - vol->pageStep());
+  QTest::mouseClick(vol, Qt::RightButton, {}, {vol->width() * 3 / 4, vol->height() / 2});
+  EXPECT_EQ(vol->value(), 127 - vol->pageStep());
+  EXPECT_EQ(vol->contextMenuPolicy(), Qt::NoContextMenu);
   vol->setValue(5);
   QTest::mouseClick(vol, Qt::LeftButton, {}, {vol->width() / 4, vol->height() / 2});
   EXPECT_EQ(vol->value(), 5 + vol->pageStep());

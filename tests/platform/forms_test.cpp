@@ -220,6 +220,22 @@ TEST_F(FormsTest, AModalFormHoldsItsCallerUntilItIsGone) {
   }
 }
 
+TEST_F(FormsTest, AFormThatIsModalTwiceHoldsBothItsCallers) {
+  forms.show(kSecond);
+  int back = 0;
+  second.click = [&](TestForm&) {
+    QTimer::singleShot(0, qApp, [&] {
+      QTimer::singleShot(0, qApp, [&] { forms.hide(kFirst); });
+      forms.showModal(kFirst);
+      ++back;
+    });
+    forms.showModal(kFirst);
+    ++back;
+  };
+  clickButton(kSecond);
+  EXPECT_EQ(back, 2);
+}
+
 TEST_F(FormsTest, TheProgramMayEndUnderAModalForm) {
   forms.show(kSecond);
   second.click = [&](TestForm&) {

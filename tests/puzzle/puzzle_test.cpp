@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QWheelEvent>
 
 #include "form_driver.h"
 #include "platform/controls.h"
@@ -99,7 +100,6 @@ TEST_F(PuzzleTest, TheMenuTurnsTheSoundOffAndLeaves) {
   strike(Qt::Key_F4);
   settle();
   EXPECT_FALSE(forms.isLoaded(kPuzzle));
-  advance(3000);
 }
 
 TEST_F(PuzzleTest, AnotherSizeGivesUpTheGame) {
@@ -127,6 +127,32 @@ TEST_F(PuzzleTest, TheClockWaitsWhileTheWindowIsMinimised) {
   EXPECT_EQ(caption(), "Čas: 1 s");
   advance(1000);
   EXPECT_EQ(caption(), "Čas: 2 s");
+}
+
+TEST_F(PuzzleTest, TheClockGoesOnUnderTheListAndNoWheelThatPassesEndsAGame) {
+  shuffleByOneMove();
+  advance(1000);
+  dialogs.expect("Výsledková listina", [this] { advance(5000); });
+  strike(Qt::Key_F2);
+  EXPECT_EQ(caption(), "Čas: 6 s");
+  auto* const sizes = control<QComboBox>(kPuzzle, "cmbSize");
+  const QPointF at(5, 5);
+  QWheelEvent wheel(at, sizes->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(sizes, &wheel);
+  EXPECT_EQ(sizes->currentText(), "3");
+}
+
+TEST_F(PuzzleTest, IsFreshWhenItIsOpenedAgain) {
+  shuffleByOneMove();
+  advance(3000);
+  window(kPuzzle)->close();
+  forms.show(kPuzzle);
+  EXPECT_EQ(caption(), "Pucle");
+  EXPECT_EQ(shuffle()->text(), "Zamiešať");
+  EXPECT_EQ(tile(14)->text(), "15");
+  EXPECT_TRUE(tile(14)->isVisible());
+  EXPECT_EQ(random.reseeded, 2);
 }
 
 TEST_F(PuzzleTest, MayBeLeftUnderItsBoxes) {

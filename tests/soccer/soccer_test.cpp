@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QPushButton>
@@ -104,9 +105,41 @@ TEST_F(SoccerTest, EightKeysMoveTwoPlayersAtOnce) {
 TEST_F(SoccerTest, NoKeyStaysHeldWhenTheKeyboardLeaves) {
   startTwo();
   press(Qt::Key_D);
-  activate(*window(kSheet));
+  QWidget box;
+  box.show();
+  activate(box);
+  activate(*window(names::frmPlayer2));
   advance(100);
   EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
+}
+
+// A key of the keyboard at its place, as the window system tells of it.
+void sendKey(QEvent::Type type, int key, quint32 place, bool isRepeat, quint64 time) {
+  QKeyEvent event(type, key, Qt::NoModifier, place, 0, 0, {}, isRepeat);
+  event.setTimestamp(time);
+  QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
+}
+
+TEST_F(SoccerTest, AKeyIsLetGoThoughAltGrGivesItAnotherSign) {
+  startTwo();
+  sendKey(QEvent::KeyPress, Qt::Key_W, 25, false, 1);
+  sendKey(QEvent::KeyRelease, Qt::Key_Bar, 25, false, 2);
+  advance(100);
+  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
+}
+
+TEST_F(SoccerTest, AnEscThatIsHeldForTheMatchDoesNotEndTheProgramOnTheTitle) {
+  startTwo();
+  sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 1);
+  activate(*window(names::frmStartUp));
+  control<QPushButton>(names::frmStartUp, "cmd2Player")->setFocus();
+  sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, true, 2);
+  sendKey(QEvent::KeyRelease, Qt::Key_Escape, 9, false, 3);
+  sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 3);  // a broken repeat
+  EXPECT_FALSE(forms.isEnding());
+  sendKey(QEvent::KeyRelease, Qt::Key_Escape, 9, false, 4);
+  sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 5);
+  EXPECT_TRUE(forms.isEnding());
 }
 
 TEST_F(SoccerTest, AKeyPressedInAPauseWorksAfterIt) {
@@ -298,6 +331,17 @@ TEST_F(SoccerTest, AMatchMayEndInAnyMoment) {
   window(names::frmPlayer2)->close();
   advance(500);
   EXPECT_FALSE(forms.isLoaded(names::frmPlayer2));
+
+  // A match of two that ends beneath the choice of an opponent.
+  startTwo();
+  activate(*window(names::frmStartUp));
+  startOne([this] {
+    EXPECT_FALSE(window(names::frmSelectPlayer)->windowFlags() & Qt::WindowMinimizeButtonHint);
+    dialogs.expect("Duelbal");
+    waitForTheEnd(91);
+    activate(*window(names::frmSelectPlayer));
+    strike(Qt::Key_Escape);
+  });
 
   startOne(2);
   dialogs.expect("Mini futbal", [this] { forms.endProgram(); });

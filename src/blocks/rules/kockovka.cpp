@@ -82,6 +82,7 @@ void Kockovka::FillWell() {
 void Kockovka::GameLoop() {
   if (options_.playsSounds()) {
     stage_.MusicOpenAndPlay();
+    isMusicOn_ = true;
     MusicStarted_ = clock_.secondsSinceMidnight();
   }
   // Before the first events: one that ends the game must count, and keys must find no piece.
@@ -96,7 +97,7 @@ void Kockovka::GameLoop() {
 
 void Kockovka::finishGame() {
   Game_.Active = false;
-  if (options_.playsSounds()) stage_.MusicClose();
+  closeMusic();
   showPause(false);  // the game may have been ended in a pause
   stage_.setMenu(false);
 }

@@ -58,6 +58,7 @@ class Kockovka {
   void Wait(double Seconds);
   double secondsToSleep(double now, double left) const;
   void keepMusicGoing(double now);
+  void closeMusic();
   void showPause(bool isPaused);
   void keepState() { OldGame_ = Game_; }
   void DrawBoard() { stage_.DrawBoard(Game_.Board, OldGame_.Board); }
@@ -79,7 +80,8 @@ class Kockovka {
   bool isPauseShown_ = false;  // in the caption
   int DropStartRow_ = 0;       // Y at the beginning of the fast drop; 0 when none is under way
   double StepDelay_ = 0;
-  double MusicStarted_ = 0;  // seconds since midnight; of an earlier game, too
+  bool isMusicOn_ = false;
+  double MusicStarted_ = 0;  // seconds since midnight
 };
 
 }  // namespace ratanka::blocks

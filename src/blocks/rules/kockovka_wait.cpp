@@ -43,11 +43,19 @@ double Kockovka::secondsToSleep(double now, double left) const {
   return seconds;
 }
 
+// Sounds may be switched on and off in mid-game.
 void Kockovka::keepMusicGoing(double now) {
+  if (!options_.playsSounds()) return closeMusic();
   const double played = now - MusicStarted_;  // negative after midnight
-  if (played >= 0 && (played < kMusicRestart || !options_.playsSounds())) return;
+  if (isMusicOn_ && played >= 0 && played < kMusicRestart) return;
+  isMusicOn_ = true;
   stage_.MusicPlay();
   MusicStarted_ = now;
+}
+
+void Kockovka::closeMusic() {
+  if (isMusicOn_) stage_.MusicClose();
+  isMusicOn_ = false;
 }
 
 void Kockovka::showPause(bool isPaused) {

@@ -33,9 +33,10 @@ class Board {
   int places() const { return size_ * size_; }
   int Blank() const { return blank_; }  // the empty place
 
-  // Of cmdButton(0) to cmdButton(48), the hidden ones included: their number from 1, and nothing on
-  // the empty place once a tile has moved.
+  // Of cmdButton(0) to cmdButton(48), the hidden ones included: their number from 1, and nothing
+  // (0) on the empty place once a tile has moved.
   std::string caption(int button) const;
+  int number(int button) const { return numbers_.at(static_cast<std::size_t>(button)); }
   bool isVisible(int button) const { return button < places() && button != blank_; }
 
   // A walk of the empty place of Size to the fourth power steps, so that the board can be solved.
@@ -53,7 +54,6 @@ class Board {
 
  private:
   int& number(int button) { return numbers_.at(static_cast<std::size_t>(button)); }
-  int number(int button) const { return numbers_.at(static_cast<std::size_t>(button)); }
 
   int size_;
   int blank_;

@@ -1,6 +1,7 @@
 #include "soccer/rules/words.h"
 
 #include <array>
+#include <utility>
 
 namespace ratanka::soccer {
 namespace {
