@@ -12,6 +12,7 @@ namespace {
 constexpr Rgb kBlack{0, 0, 0};
 constexpr Rgb kBlue{0, 0, 192};
 constexpr Rgb kWhite{255, 255, 255};
+constexpr Rgb kChalk{0xa8, 0xcf, 0xe8};  // blue on black is hard to see
 constexpr Rgb kGreen{0, 255, 0};
 constexpr Rgb kRed{255, 0, 0};
 constexpr Rgb kYellow{255, 255, 0};
@@ -75,6 +76,7 @@ void Piškôrky::buildBoard() {
                             .type = {.points = 24},
                             .fore = kBlue,
                             .back = kBlack,
+                            .rim = kChalk,
                             .align = Qt::AlignCenter});
     on(new Clicks(*cell), &Clicks::clicked, [this, index] { s_Click(index); });
     s_.at(static_cast<std::size_t>(index)) = cell;

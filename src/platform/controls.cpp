@@ -38,14 +38,14 @@ class RimmedLabel : public QLabel {
 
  protected:
   void paintEvent(QPaintEvent*) override {
-    constexpr qreal kRim = 6;  // half of it lies beneath the letter
+    const qreal rim = font().pixelSize() / 10.0;  // half of it lies beneath the letter
     QPainterPath letters;
     letters.addText(0, 0, font(), text());
     const QRectF box = letters.boundingRect();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(QRectF(rect()).center() - box.center());
-    painter.strokePath(letters, QPen(rim_, kRim, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.strokePath(letters, QPen(rim_, rim, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(letters, palette().windowText());
   }
 
