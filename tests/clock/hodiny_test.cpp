@@ -2,10 +2,8 @@
 
 #include <QLabel>
 
-#include "clock/rules/outline.h"
 #include "form_driver.h"
 #include "platform/controls.h"
-#include "platform/pictures.h"
 #include "shell/names.h"
 
 namespace ratanka::clock {
@@ -140,26 +138,6 @@ TEST_F(HodinyTest, PassesItsStoredColoursOnUnchanged) {
   EXPECT_EQ(settings.values["Ciferka/Hands/mlHcolor"], " 4711");
   EXPECT_EQ(settings.values["Ciferka/Hands/mlMcolor"], " 0");
   EXPECT_EQ(settings.values["Ciferka/Hands/mlScolor"], "-7");
-}
-
-TEST(ClockPicture, FillsItsOutline) {
-  QPolygon polygon;
-  for (const Point& point : kOutline) polygon << QPoint(point.x, point.y);
-  const QRegion region(polygon, Qt::OddEvenFill);
-  const QImage figure = picture("clock", {239, 190}, 1).toImage();
-  int cut = 0;
-  int empty = 0;
-  for (int y = 0; y < figure.height(); ++y) {
-    for (int x = 0; x < figure.width(); ++x) {
-      const bool isInside = region.contains(QPoint(x, y));
-      const int alpha = qAlpha(figure.pixel(x, y));
-      cut += alpha == 255 && !isInside ? 1 : 0;
-      empty += alpha == 0 && isInside ? 1 : 0;
-    }
-  }
-  // A whole pixel in a hundred of the edge's may fall to the wrong side.
-  EXPECT_LE(cut, 10);
-  EXPECT_LE(empty, 10);
 }
 
 }  // namespace
