@@ -186,7 +186,7 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
 void FormWindow::keyWentDown(const QKeyEvent& event) {
   const quint32 place = placeOf(event);
   const bool isBroken =
-      event.nativeScanCode() != 0 && form_->forms_.isLastKeyUp(place, event.timestamp());
+      event.nativeScanCode() != 0 && form_->forms_.isStrayKeyUp(place, event.timestamp());
   if (isBroken || (event.isAutoRepeat() && !heldKeys_.contains(place))) return;
   const int code = keyCode(event);
   heldKeys_[place] = code;
@@ -198,9 +198,13 @@ void FormWindow::keyCameUp(const QKeyEvent& event) {
   if (event.isAutoRepeat()) return;
   const quint32 place = placeOf(event);
   const auto held = heldKeys_.find(place);
-  const int code = held == heldKeys_.end() ? keyCode(event) : held->second;
-  if (held != heldKeys_.end()) heldKeys_.erase(held);
-  form_->forms_.setLastKeyUp(place, event.timestamp());
+  if (held == heldKeys_.end()) {
+    form_->forms_.setStrayKeyUp(place, event.timestamp());
+    form_->Form_KeyUp(keyCode(event));
+    return;
+  }
+  const int code = held->second;
+  heldKeys_.erase(held);
   form_->Form_KeyUp(code);
 }
 

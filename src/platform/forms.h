@@ -59,9 +59,10 @@ class Forms {
   void handlerStarted() { ++handlersRunning_; }
   void handlerReturned();
   void loadAnd(FormName name, void (Form::*display)());
-  void setLastKeyUp(std::uint32_t place, std::uint64_t time) { lastKeyUp_ = {place, time}; }
-  bool isLastKeyUp(std::uint32_t place, std::uint64_t time) const {
-    return lastKeyUp_ == std::pair{place, time};
+  // Of a key that came up in a window that hadn't seen it go down.
+  void setStrayKeyUp(std::uint32_t place, std::uint64_t time) { strayKeyUp_ = {place, time}; }
+  bool isStrayKeyUp(std::uint32_t place, std::uint64_t time) const {
+    return strayKeyUp_ == std::pair{place, time};
   }
   void formBecameActive(Form& form);
   void formLeft(const Form& form);
@@ -70,7 +71,7 @@ class Forms {
   std::map<FormName, Maker> makers_;
   std::map<FormName, std::shared_ptr<Form>> forms_;
   const Form* active_ = nullptr;  // the form that had the keyboard last
-  std::pair<std::uint32_t, std::uint64_t> lastKeyUp_;
+  std::pair<std::uint32_t, std::uint64_t> strayKeyUp_;
   int handlersRunning_ = 0;
   bool isEnding_ = false;
 };

@@ -120,6 +120,16 @@ void sendKey(QEvent::Type type, int key, quint32 place, bool isRepeat, quint64 t
   QCoreApplication::sendEvent(QGuiApplication::focusWindow(), &event);
 }
 
+TEST_F(SoccerTest, NoPressIsLostHoweverQuickTheChildIs) {
+  startTwo();
+  for (int strike = 1; strike <= 2; ++strike) {  // all in one moment of the window system's clock
+    sendKey(QEvent::KeyPress, Qt::Key_D, 40, false, 7);
+    advance(10);
+    sendKey(QEvent::KeyRelease, Qt::Key_D, 40, false, 7);
+  }
+  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart + QPoint(32, 0));
+}
+
 TEST_F(SoccerTest, AKeyIsLetGoThoughAltGrGivesItAnotherSign) {
   startTwo();
   sendKey(QEvent::KeyPress, Qt::Key_W, 25, false, 1);
