@@ -169,8 +169,11 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   if (form_ == nullptr || form_->hasEnded() || QApplication::activePopupWidget() != nullptr) {
     return false;
   }
-  // So has a bar that the Alt key has woken.
-  if (isPress && menuBar_ != nullptr && menuBar_->hasFocus()) return false;
+  // So has a bar that the Alt key has woken. It may keep the focus after its menu was used, where
+  // nothing else wants it.
+  const bool isInBar =
+      menuBar_ != nullptr && menuBar_->hasFocus() && menuBar_->activeAction() != nullptr;
+  if (isPress && isInBar) return false;
   const Form::HandlerScope scope(*form_);
   if (isPress) {
     keyWentDown(*static_cast<QKeyEvent*>(event));
