@@ -46,14 +46,15 @@ class FakeRandom : public Random {
 // Time that stands still until it is moved on.
 class FakeTicks : public Ticks {
  public:
-  std::unique_ptr<Source> every(std::chrono::milliseconds interval, Precision,
+  std::unique_ptr<Source> every(std::chrono::milliseconds interval, Precision precision,
                                 std::function<void()> tick) override {
     const int id = ++lastId_;
-    sources_[id] = {now_ + interval, interval, std::move(tick)};
+    sources_[id] = {now_ + interval, interval, precision, std::move(tick)};
     return std::make_unique<FakeSource>(*this, id);
   }
 
-  // Runs all ticks that fall due, in the order of their times.
+  // Runs all ticks that fall due, in the order of their times. A tick may let more time pass in a
+  // loop of its own.
   void advance(std::chrono::milliseconds duration) {
     const std::chrono::milliseconds end = now_ + duration;
     while (true) {
@@ -61,20 +62,39 @@ class FakeTicks : public Ticks {
           sources_.begin(), sources_.end(),
           [](const auto& a, const auto& b) { return a.second.due < b.second.due; });
       if (next == sources_.end() || next->second.due > end) break;
-      now_ = next->second.due;
+      now_ = std::max(now_, next->second.due);
       next->second.due += next->second.interval;
-      const std::function<void()> tick = next->second.tick;  // the source may end in its tick
-      tick();
+      tick(next->first);
     }
-    now_ = end;
+    now_ = std::max(now_, end);
   }
 
+  // The same of a computer that slept meanwhile: of each source one tick is left.
+  void sleep(std::chrono::milliseconds duration) {
+    now_ += duration;
+    std::vector<int> due;
+    for (auto& [id, source] : sources_) {
+      if (source.due > now_) continue;
+      source.due = now_ + source.interval;
+      due.push_back(id);
+    }
+    for (const int id : due) tick(id);
+  }
+
+  std::chrono::milliseconds now() const { return now_; }
+
   std::size_t running() const { return sources_.size(); }
+  // Those that keep their interval to the millisecond.
+  auto runningFine() const {
+    return std::ranges::count_if(
+        sources_, [](const auto& one) { return one.second.precision == Precision::fine; });
+  }
 
  private:
   struct Running {
     std::chrono::milliseconds due{};
     std::chrono::milliseconds interval{};
+    Precision precision = Precision::any;
     std::function<void()> tick;
   };
 
@@ -89,6 +109,13 @@ class FakeTicks : public Ticks {
     FakeTicks& ticks_;
     int id_;
   };
+
+  void tick(int id) {
+    const auto source = sources_.find(id);
+    if (source == sources_.end()) return;
+    const std::function<void()> handler = source->second.tick;  // the source may end in its tick
+    handler();
+  }
 
   std::chrono::milliseconds now_{0};
   std::map<int, Running> sources_;

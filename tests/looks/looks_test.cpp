@@ -86,7 +86,7 @@ TEST_F(LooksTest, EveryTextIsEasyToRead) {
     return id.ends_with("/Label38") || id == "Úvod/Command8";
   };
   std::map<std::string, double> weak;
-  for (const FormName name : allNames()) {
+  for (const FormName name : allSeenForms()) {
     forms.show(name);
     settle();
     collect(name, weak);

@@ -7,6 +7,8 @@
 #include <QPushButton>
 
 #include "all_forms.h"
+#include "blocks/kockovka_form.h"
+#include "maze/bludisko.h"
 #include "platform/controls.h"
 
 namespace ratanka {
@@ -103,7 +105,6 @@ class BadMoments : public AllFormsTest, public testing::WithParamInterface<Pair>
 
   using AllFormsTest::activate;
   using AllFormsTest::advance;
-  using AllFormsTest::allNames;
   using AllFormsTest::click;
   using AllFormsTest::control;
   using AllFormsTest::dialogs;
@@ -155,7 +156,7 @@ void playMatch(BadMoments& child, FormName form) {
 
 // Nothing stands between the child and the form.
 void addOpenMoments(std::vector<Moment>& all) {
-  for (const FormName form : BadMoments::allNames()) {
+  for (const FormName form : allSeenForms()) {
     all.push_back({"quiet", form, [form](BadMoments& child, const Leave& leave) {
                      child.open(form);
                      child.advance(700);

@@ -212,7 +212,7 @@ class RestlessChild : public QObject {
   }
 
   static bool isForm(const QString& window) {
-    const std::vector<FormName>& all = WholeProgram::allNames();
+    const std::vector<FormName>& all = allSeenForms();
     return std::any_of(all.begin(), all.end(),
                        [&](FormName name) { return text(name.text()) == window; });
   }
@@ -310,7 +310,7 @@ class RestlessChild : public QObject {
   }
 
   void lookAtForms(const std::vector<QWidget*>& windows) {
-    for (const FormName name : WholeProgram::allNames()) {
+    for (const FormName name : allSeenForms()) {
       const bool isLoaded = program_->forms.isLoaded(name);
       const auto seen = std::count_if(windows.begin(), windows.end(), [name](const QWidget* each) {
         return each->objectName() == text(name.text());
@@ -610,7 +610,7 @@ class RestlessChild : public QObject {
                 static_cast<long long>(diary.event), seconds,
                 static_cast<double>(diary.event) / seconds, static_cast<long long>(visits_));
     bool isMissing = false;
-    for (const FormName name : WholeProgram::allNames()) opened_[std::string(name.text())] += 0;
+    for (const FormName name : allSeenForms()) opened_[std::string(name.text())] += 0;
     for (const auto& [name, times] : opened_) {
       std::printf("  %s: %lld\n", name.c_str(), static_cast<long long>(times));
       isMissing = isMissing || times == 0;

@@ -183,6 +183,7 @@ TEST_F(SoccerTest, ANewMatchInAPauseRunsAndTheMenuGoesOnSayingSo) {
 
 TEST_F(SoccerTest, AMatchLastsNinetySecondsTheFirstOfWhichIsLong) {
   startTwo();
+  EXPECT_EQ(ticks.runningFine(), 2);  // the ball's and the seconds
   advance(1990);
   EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 90");
   advance(10);

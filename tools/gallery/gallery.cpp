@@ -6,10 +6,28 @@
 #include <algorithm>
 
 #include "platform/controls.h"
+#include "platform/data_files.h"
 #include "platform/text.h"
 #include "sheets/sheets.h"
 
 namespace ratanka {
+
+Gallery::Gallery(QString folder, QString suffix)
+    : folder_(std::move(folder)), suffix_(std::move(suffix)) {
+  setMakers({.forms = forms_,
+             .dialogs = dialogs_,
+             .desktop = desktop_,
+             .clock = time_,
+             .settings = settings_,
+             .random = random_,
+             .sound = silence_,
+             .midiOut = silence_,
+             .premenné = premenné_,
+             .declarations = declarations_,
+             .options = options_,
+             .mazeFile = dataFile("bludisko.txt"),
+             .settingsFile = home_.filePath("Kockovka32.ini")});
+}
 
 void Gallery::show() {
   showMenu();

@@ -9,17 +9,12 @@
 #include <initializer_list>
 #include <vector>
 
-#include "blocks/rules/options.h"
-#include "platform/clock.h"
-#include "platform/forms.h"
+#include "makers.h"
 #include "platform/ini_settings_store.h"
-#include "platform/midi_out.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_ticks.h"
-#include "platform/sound.h"
 #include "platform/twister_random.h"
-#include "sheets/exercise_sheet.h"
-#include "soccer/rules/declarations.h"
+#include "sheets/sheet_design.h"
 
 namespace ratanka {
 
@@ -62,8 +57,7 @@ inline constexpr int kPatience = 400;  // milliseconds, for the book to have tur
 // Shows every form in its telling states and writes a picture of each.
 class Gallery {
  public:
-  Gallery(QString folder, QString suffix)
-      : folder_(std::move(folder)), suffix_(std::move(suffix)) {}
+  Gallery(QString folder, QString suffix);
 
   void show();
 
@@ -112,7 +106,7 @@ class Gallery {
   soccer::Declarations declarations_;
   blocks::Options options_{.StartingLevel = 7, .FillLines = true};
   Silence silence_;
-  sheets::SheetServices services_{forms_, dialogs_, random_, premenné_};
+  PrimaryScreen desktop_;
 };
 
 }  // namespace ratanka

@@ -3,23 +3,13 @@
 #include <array>
 
 #include "gallery/gallery.h"
-#include "maze/bludisko.h"
 #include "piskorky/piskorky.h"
 #include "platform/controls.h"
-#include "platform/data_files.h"
 #include "shell/names.h"
-#include "soccer/player1.h"
-#include "soccer/player2.h"
-#include "soccer/select_player.h"
-#include "soccer/start_up.h"
 
 namespace ratanka {
 
 void Gallery::showMaze() {
-  forms_.setMaker(names::Bludisko, [this] {
-    return std::make_shared<maze::Bludisko>(forms_, dialogs_, time_,
-                                            dataFile("bludisko.txt").toStdString());
-  });
   forms_.show(names::Bludisko);
   take(names::Bludisko, "fresh");
   // Along the wall on the right hand, which leads through any maze without loops.
@@ -65,15 +55,6 @@ void Gallery::playGame(std::initializer_list<int> moves, std::initializer_list<i
 }
 
 void Gallery::showSoccer() {
-  using namespace soccer;
-  forms_.setMaker(names::frmStartUp, [this] { return std::make_shared<frmStartUp>(forms_); });
-  forms_.setMaker(names::frmSelectPlayer,
-                  [this] { return std::make_shared<frmSelectPlayer>(forms_, declarations_); });
-  forms_.setMaker(names::frmPlayer1, [this] {
-    return std::make_shared<frmPlayer1>(forms_, dialogs_, random_, declarations_);
-  });
-  forms_.setMaker(names::frmPlayer2,
-                  [this] { return std::make_shared<frmPlayer2>(forms_, dialogs_, declarations_); });
   forms_.show(names::frmStartUp);
   take(names::frmStartUp, "title");
   forms_.show(names::frmSelectPlayer);

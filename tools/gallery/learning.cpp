@@ -3,19 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "clock/hodiny.h"
 #include "gallery/gallery.h"
 #include "platform/controls.h"
 #include "platform/text.h"
-#include "report/vysvedcenie.h"
-#include "sheets/sheets.h"
 #include "shell/names.h"
-#include "shell/uvod.h"
 
 namespace ratanka {
 
 void Gallery::showMenu() {
-  forms_.setMaker(names::Úvod, [this] { return std::make_shared<Úvod>(forms_); });
   forms_.show(names::Úvod);
   take(names::Úvod, "menu");
 }
@@ -23,8 +18,6 @@ void Gallery::showMenu() {
 // Fresh, in work, with the box that comes up over an empty answer, and done with mistakes.
 void Gallery::showSheet(const sheets::SheetDesign& design, int mistakes) {
   const FormName name = design.name;
-  forms_.setMaker(
-      name, [this, design] { return std::make_shared<sheets::ExerciseSheet>(services_, design); });
   TwisterRandom sameDraws = random_;
   const sheets::Examples examples = design.ShowStart(sameDraws);
   // The empty row first, so that its box comes up on every sheet.
@@ -50,8 +43,6 @@ void Gallery::showSheet(const sheets::SheetDesign& design, int mistakes) {
 }
 
 void Gallery::showCard() {
-  forms_.setMaker(names::Vysvedčenie,
-                  [this] { return std::make_shared<report::Vysvedčenie>(forms_, premenné_); });
   forms_.show(names::Vysvedčenie);
   take(names::Vysvedčenie, "full");
   forms_.unload(names::Vysvedčenie);
@@ -61,9 +52,6 @@ void Gallery::showCard() {
 }
 
 void Gallery::showClock() {
-  forms_.setMaker(names::Hodiny, [this] {
-    return std::make_shared<clock::Hodiny>(forms_, dialogs_, time_, settings_);
-  });
   for (const TimeOfDay& time : {TimeOfDay{10, 8, 36}, TimeOfDay{18, 30, 15}}) {
     time_.now = time;
     forms_.show(names::Hodiny);

@@ -4,24 +4,18 @@
 #include <QComboBox>
 
 #include "blocks/kockovka_form.h"
-#include "blocks/options_form.h"
 #include "gallery/gallery.h"
-#include "piano/klavir.h"
 #include "platform/controls.h"
 #include "platform/system_clock.h"
-#include "puzzle/puzzle.h"
 #include "shell/names.h"
 
 namespace ratanka {
 
 void Gallery::showBlocks() {
+  // A game needs a time that goes by.
   const SystemClock clock;
   forms_.setMaker(names::frmKockovka, [&] {
     return std::make_shared<blocks::frmKockovka>(forms_, clock, random_, silence_, options_);
-  });
-  forms_.setMaker(names::frmOptions, [this] {
-    return std::make_shared<blocks::frmOptions>(forms_, dialogs_, options_,
-                                                home_.filePath("Kockovka32.ini"));
   });
   forms_.show(names::frmKockovka);
   take(names::frmKockovka, "empty");
@@ -51,9 +45,6 @@ void Gallery::showBlocks() {
 }
 
 void Gallery::showPuzzle() {
-  forms_.setMaker(names::frmPuzzle, [this] {
-    return std::make_shared<puzzle::frmPuzzle>(forms_, dialogs_, random_, silence_, settings_);
-  });
   forms_.show(names::frmPuzzle);
   for (int size = 3; size <= 7; ++size) {
     control<QComboBox>(names::frmPuzzle, "cmbSize").setCurrentText(QString::number(size));
@@ -72,8 +63,6 @@ void Gallery::showPuzzle() {
 }
 
 void Gallery::showPiano() {
-  forms_.setMaker(names::Klavír,
-                  [this] { return std::make_shared<piano::Klavír>(forms_, dialogs_, silence_); });
   forms_.show(names::Klavír);
   take(names::Klavír, "rest");
   for (const int key : {Qt::Key_Z, Qt::Key_C, Qt::Key_B, Qt::Key_L}) press(names::Klavír, key);
