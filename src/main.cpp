@@ -1,6 +1,7 @@
 #include "makers.h"
 #include "platform/application.h"
 #include "platform/data_files.h"
+#include "platform/end_requests.h"
 #include "platform/ini_settings_store.h"
 #include "platform/lazy_midi_out.h"
 #include "platform/lazy_sound.h"
@@ -41,5 +42,6 @@ int main(int, char** arguments) {
              .options = options,
              .mazeFile = dataFile("bludisko.txt"),
              .settingsFile = IniSettingsStore::usersFolder() + '/' + text(blocks::kSettingsFile)});
+  const EndRequests endRequests([&] { forms.endProgram(); });
   return application.run([&] { forms.show(names::frmSplash); });
 }

@@ -6,6 +6,7 @@
 #include "form_driver.h"
 #include "makers.h"
 #include "platform/data_files.h"
+#include "platform/end_requests.h"
 #include "sheets/sheets.h"
 #include "shell/names.h"
 
@@ -59,6 +60,7 @@ class AllFormsTest : public FormTest {
   soccer::Declarations declarations{.OpponentIndex = 1};
   FakeDesktop desktop;
   const QTemporaryDir folder;
+  const EndRequests endRequests{[this] { forms.endProgram(); }};
 };
 
 }  // namespace ratanka

@@ -153,6 +153,30 @@ TEST_F(DialogsTest, TheEndOfTheProgramClosesABoxAndShowsNoOther) {
   EXPECT_EQ(boxes.input("x", "y", "z"), std::nullopt);
 }
 
+// A form that isn't at work goes at once, and a box over it goes along.
+TEST_F(DialogsTest, AFormMayTakeABoxAlong) {
+  makePlain(kOther);
+  forms.show(kOther);
+  settle();
+  for (const bool isQuestion : {false, true}) {
+    activate(*window(kForm));
+    whenOpen([this](QDialog&) {
+      form.reset();
+      forms.drop(kForm);
+      QTimer::singleShot(0, qApp, &FormTest::settle);
+    });
+    if (isQuestion) {
+      EXPECT_EQ(boxes.input("x", "y", "z"), std::nullopt);
+    } else {
+      EXPECT_EQ(boxes.message({.title = "x", .text = "y"}), Dialogs::Answer::ok);
+    }
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_FALSE(forms.isLoaded(kForm));
+    forms.show(kForm);
+    settle();
+  }
+}
+
 TEST_F(DialogsTest, ABoxOutlivesTheFormBeneathIt) {
   makePlain(kOther);
   forms.show(kOther);

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QPushButton>
+#include <csignal>
 
 #include "all_forms.h"
 #include "blocks/kockovka_form.h"
@@ -332,6 +333,13 @@ const std::vector<Way>& ways() {
        },
        noProgram},
       {"withTheProgram", [](BadMoments& child, FormName) { child.forms.endProgram(); }, noProgram},
+      {"withTheSession",
+       [](BadMoments&, FormName) {
+         QEvent quit(QEvent::Quit);  // what the toolkit makes of a session that ends
+         QCoreApplication::sendEvent(qApp, &quit);
+       },
+       noProgram},
+      {"bySIGTERM", [](BadMoments&, FormName) { std::raise(SIGTERM); }, noProgram},
   };
   return kWays;
 }

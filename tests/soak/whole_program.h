@@ -3,6 +3,7 @@
 #include <QString>
 
 #include "all_forms.h"
+#include "platform/end_requests.h"
 #include "platform/qt_dialogs.h"
 #include "puzzle/puzzle.h"
 #include "shell/splash.h"
@@ -64,6 +65,7 @@ class WholeProgram {
   blocks::Options options;
   soccer::Declarations declarations;
   int starts = 0;
+  const EndRequests endRequests{[this] { forms.endProgram(); }};
 };
 
 }  // namespace ratanka::soak
