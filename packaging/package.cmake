@@ -49,6 +49,16 @@ install(FILES ${PACKAGING}/ratanka.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/
 install(FILES ${PACKAGING}/sk.ratanka.ratanka.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 
+# A school's own maze outlives an upgrade: it lies where Debian keeps what people change, and where
+# the program looks for it there is a link.
+set(KEPT_MAZE ${CMAKE_INSTALL_FULL_SYSCONFDIR}/ratanka/bludisko.txt)
+install(FILES ${PROJECT_BINARY_DIR}/bludisko.txt
+        DESTINATION ${CMAKE_INSTALL_FULL_SYSCONFDIR}/ratanka)
+install(CODE "file(CREATE_LINK ${KEPT_MAZE}
+                   \$ENV{DESTDIR}${CMAKE_INSTALL_FULL_DATADIR}/ratanka/bludisko.txt SYMBOLIC)")
+file(WRITE ${PROJECT_BINARY_DIR}/conffiles "${KEPT_MAZE}\n")
+set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${PROJECT_BINARY_DIR}/conffiles)
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME ratanka)
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "sums for small schoolchildren, with games as a reward")
