@@ -84,6 +84,12 @@ class FakeTicks : public Ticks {
   std::chrono::milliseconds now() const { return now_; }
 
   std::size_t running() const { return sources_.size(); }
+  // Of all of them together.
+  std::int64_t ticksAMinute() const {
+    std::int64_t sum = 0;
+    for (const auto& [id, one] : sources_) sum += std::chrono::minutes(1) / one.interval;
+    return sum;
+  }
   // Those that keep their interval to the millisecond.
   auto runningFine() const {
     return std::ranges::count_if(

@@ -5,8 +5,6 @@
 //
 // Ends with 1 when something that must always hold doesn't; the sanitizers watch the rest.
 
-#include <malloc.h>
-
 #include <QAbstractButton>
 #include <QAction>
 #include <QElapsedTimer>
@@ -21,6 +19,7 @@
 #include <array>
 #include <atomic>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -30,18 +29,13 @@
 #include "platform/controls.h"
 #include "platform/data_files.h"
 #include "platform/text.h"
-#include "sheets/reckon.h"
 #include "soak/hands.h"
+#include "soak/heap.h"
+#include "soak/reading.h"
 #include "soak/whole_program.h"
 
 #ifdef __SANITIZE_ADDRESS__
 #include <sanitizer/common_interface_defs.h>
-
-// The compiler brings it without a header.
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-
-// Freed memory is watched for a while, not for hours: what grows then is the program's.
-extern "C" const char* __asan_default_options() { return "quarantine_size_mb=16"; }
 #endif
 
 namespace ratanka::soak {
@@ -91,15 +85,6 @@ Diary diary;
   diary.print();
   std::fflush(stderr);
   std::abort();
-}
-
-double heapMegabytes() {
-#ifdef __SANITIZE_ADDRESS__
-  const auto bytes = __sanitizer_get_current_allocated_bytes();
-#else
-  const auto bytes = mallinfo2().uordblks;
-#endif
-  return static_cast<double>(bytes) / 1e6;
 }
 
 struct Sign {
@@ -325,7 +310,7 @@ class RestlessChild : public QObject {
   void measure() {
     if (diary.event % 20 != 0) return;
     const auto tenth = static_cast<std::size_t>((diary.event - 1) * kTenths / events_);
-    peaks_.at(tenth) = std::max(peaks_.at(tenth), heapMegabytes());
+    peaks_.at(tenth) = std::max(peaks_.at(tenth), static_cast<double>(heapBytes()) / 1e6);
   }
 
   // --- What the child does ---
@@ -344,10 +329,19 @@ class RestlessChild : public QObject {
     if (what < 975) return minimise();
     if (what < 993) return bringBack();
     if (what < 998) return closeFrame(oneWindow());
-    if (what == 998 && happens(10)) {
-      note("ends the program", nullptr);
-      program_->forms.endProgram();
+    if (what == 998 && happens(10)) endFromOutside();
+  }
+
+  void endFromOutside() {
+    const int how = below(3);
+    note("ends the program", nullptr);
+    if (how == 0) return program_->forms.endProgram();
+    if (how == 1) {
+      std::raise(SIGTERM);
+      return;
     }
+    QEvent quit(QEvent::Quit);  // what the toolkit makes of a session that ends
+    QCoreApplication::sendEvent(qApp, &quit);
   }
 
   static void note(const char* what, const QWidget* whom) { diary.write(what, whom); }
@@ -447,23 +441,6 @@ class RestlessChild : public QObject {
     }
   }
 
-  // A sheet's example as a child reads it: from left to right, "?" for the box.
-  static std::string readRow(const QWidget& sheet, const QWidget& box, int row) {
-    std::vector<std::pair<int, std::string>> pieces{{box.x(), "?"}};
-    const auto* const equals = sheet.findChild<QWidget*>("Line" + QString::number(2 * row - 1));
-    if (equals == nullptr) return {};
-    pieces.emplace_back(equals->x(), "=");
-    for (const QLabel* const piece : sheet.findChildren<QLabel*>()) {
-      const bool isCorrection = piece->objectName() == "Label" + QString::number(4 * row);
-      if (piece->y() != box.y() || isCorrection || piece->text().isEmpty()) continue;
-      pieces.emplace_back(piece->x(), piece->text().toStdString());
-    }
-    std::sort(pieces.begin(), pieces.end());
-    std::string read;
-    for (const auto& piece : pieces) read += piece.second;
-    return read;
-  }
-
   void work() {
     QWidget* const window = oneWindow();
     if (window == nullptr) return;
@@ -494,11 +471,9 @@ class RestlessChild : public QObject {
       if (other != nullptr) hands_.click(*other);
       return;
     }
-    const std::string example = readRow(sheet, *box, box->objectName().mid(4).toInt());
-    const std::optional<int> result = sheets::solve(example);
     note("reckons", box);
     box->selectAll();
-    const QString answer = QString::number(result.value_or(0) + (happens(94) ? 0 : 1));
+    const QString answer = QString::number(resultOf(sheet, *box) + (happens(94) ? 0 : 1));
     for (const QChar& digit : answer) hands_.strike(digit.unicode(), {}, digit);
     hands_.strike(happens(50) ? Qt::Key_Return : Qt::Key_Enter, {}, "\r");
   }
