@@ -17,7 +17,7 @@ struct Runs {
   int restSeconds = 10;
   int digitPairs = 100;
   int tickSets = 12;
-  int visits = 100;
+  int visits = 15 * kSheetButtons;
 };
 
 constexpr Runs kQuick{.startPairs = 5,
@@ -25,7 +25,7 @@ constexpr Runs kQuick{.startPairs = 5,
                       .restSeconds = 3,
                       .digitPairs = 20,
                       .tickSets = 2,
-                      .visits = 14};
+                      .visits = 3 * kSheetButtons};
 
 void measure(const Programs& programs, const Runs& runs) {
   Robot robot;
@@ -38,7 +38,7 @@ void measure(const Programs& programs, const Runs& runs) {
   measureRest(robot, programs, runs.restSeconds);
   measureDigits(robot, programs, runs.digitPairs);
   measureTicks(robot, programs, runs.tickSets);
-  measureVisits(robot, programs, runs.visits);
+  measureVisits(robot, programs, runs.visits, runs.restSeconds);
   measureGames(robot, programs, runs.restSeconds);
   measureSoccer(robot, programs, runs.restSeconds);
   measureBoards(robot, programs, runs.restSeconds);

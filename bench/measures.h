@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "programs.h"
 #include "robot.h"
@@ -25,6 +26,9 @@ Process::Usage usageBeyondSheet(
 // What the program does while the child does nothing. Needs a window manager.
 void measureRest(Robot& robot, const Programs& programs, int seconds);
 
+// Goes from the menu to a sheet and stays there, without doing anything; prints under that name.
+void measureRestAtSheet(Robot& robot, const OpenWindow& menu, int seconds, const std::string& name);
+
 // From a typed digit to its picture, against the bare window in turns. Needs a window manager.
 void measureDigits(Robot& robot, const Programs& programs, int pairs);
 
@@ -32,9 +36,10 @@ void measureDigits(Robot& robot, const Programs& programs, int pairs);
 void measureTicks(Robot& robot, const Programs& programs, int sets);
 
 // From a click on the menu to the first paint of a sheet and back again, over all sheets in turn,
-// and what so many visits leave in memory; then from the card's OK to the end of the process. Needs
-// a window manager.
-void measureVisits(Robot& robot, const Programs& programs, int visits);
+// and what so many visits, three rounds of the sheets at least, leave in memory; what the program
+// does at rest after them; and from the card's OK to the end of the process. Needs a window
+// manager.
+void measureVisits(Robot& robot, const Programs& programs, int visits, int restSeconds);
 
 // What noughts and crosses cost at rest beyond their sheet, and how long a great maze takes to
 // open. Needs a window manager.

@@ -34,10 +34,15 @@ void measureRest(Robot& robot, const Programs& programs, int seconds) {
   print({"at rest, menu: wake-ups a second", menu.wakeUps, "", 0});
   print({"at rest, menu: of one core", menu.cpuSeconds * 100, "%"});
 
-  openSheet(robot, window);
-  const Process::Usage sheet = usageASecond(window.process(), seconds);
-  print({"at rest, sheet, book and clock: wake-ups a second", sheet.wakeUps, "", 30});
-  print({"at rest, sheet, book and clock: of one core", sheet.cpuSeconds * 100, "%", 1});
+  measureRestAtSheet(robot, window, seconds, "at rest, sheet, book and clock");
+}
+
+void measureRestAtSheet(Robot& robot, const OpenWindow& menu, int seconds,
+                        const std::string& name) {
+  openSheet(robot, menu);
+  const Process::Usage sheet = usageASecond(menu.process(), seconds);
+  print({name + ": wake-ups a second", sheet.wakeUps, "", 30});
+  print({name + ": of one core", sheet.cpuSeconds * 100, "%", 1});
 }
 
 }  // namespace ratanka::bench
