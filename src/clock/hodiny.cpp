@@ -2,7 +2,6 @@
 
 #include <QPainter>
 
-#include "clock/rules/hands.h"
 #include "clock/rules/outline.h"
 #include "platform/controls.h"
 #include "platform/forms.h"
@@ -15,10 +14,6 @@ namespace {
 
 constexpr PixelSize kPicture{239, 190};
 constexpr int kHandWidth = 5;  // logical pixels
-
-constexpr auto kApplication = "Ciferka";
-constexpr auto kSection = "Hands";
-constexpr std::array kKeys{"mlHcolor", "mlMcolor", "mlScolor"};
 
 }  // namespace
 
@@ -64,17 +59,10 @@ void Hodiny::Form_Load() {
   lastSecond_ = 0;
   shown_.reset();
   elapsed_ = {};
-  for (std::size_t hand = 0; hand < kKeys.size(); ++hand) {
-    handColours_.at(hand) =
-        storedNumber(settings_.read(kApplication, kSection, kKeys.at(hand), ""));
-  }
+  handColours_ = readHandColours(settings_);
 }
 
-void Hodiny::Form_Unload() {
-  for (std::size_t hand = 0; hand < kKeys.size(); ++hand) {
-    settings_.write(kApplication, kSection, kKeys.at(hand), storedText(handColours_.at(hand)));
-  }
-}
+void Hodiny::Form_Unload() { writeHandColours(settings_, handColours_); }
 
 void Hodiny::tmrClock_Timer() {
   const TimeOfDay now = clock_.timeOfDay();

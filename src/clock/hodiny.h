@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "clock/rules/elapsed_time.h"
+#include "clock/rules/hands.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/form.h"
@@ -39,7 +40,7 @@ class Hodiny : public Form {
   const Clock& clock_;
   SettingsStore& settings_;
 
-  std::array<int, 3> handColours_{};  // palette indices of the hour, minute and second hand
+  HandColours handColours_{};
   int lastSecond_ = 0;
   std::optional<TimeOfDay> shown_;  // nothing before the first drawing
   ElapsedTime elapsed_;

@@ -1,20 +1,31 @@
 #include "platform/ini_settings_store.h"
 
 #include <QDir>
-#include <QSettings>
 #include <QStandardPaths>
+#include <optional>
 
+#include "platform/ini_file.h"
+#include "platform/ini_text.h"
 #include "platform/text.h"
 
 namespace ratanka {
 namespace {
 
-QString pathOf(std::string_view section, std::string_view key) {
-  return text(section) + '/' + text(key);
+// A name as the file has it: signs that could be taken for something else are written as their
+// numbers.
+std::string encoded(std::string_view name) {
+  QString plain;
+  for (const QChar sign : text(name)) {
+    const ushort number = sign.unicode();
+    const bool isPlain =
+        number < 0x80 && (sign.isLetterOrNumber() || QStringView(u"_-.").contains(sign));
+    if (isPlain) plain += sign;
+    if (!isPlain && number < 0x100)
+      plain += QString("%%1").arg(number, 2, 16, QChar('0')).toUpper();
+    if (number >= 0x100) plain += QString("%U%1").arg(number, 4, 16, QChar('0')).toUpper();
+  }
+  return plain.toStdString();
 }
-
-// A comma that somebody typed into the file by hand makes a list of the text: joins it again.
-QString textOf(const QVariant& value) { return value.toStringList().join(", "); }
 
 }  // namespace
 
@@ -26,20 +37,27 @@ QString IniSettingsStore::fileOf(std::string_view application) const {
   return QDir(folder_).filePath(text(application) + ".ini");
 }
 
+std::optional<std::string> IniSettingsStore::find(std::string_view application,
+                                                  std::string_view section,
+                                                  std::string_view key) const {
+  const std::string content = readIniFile(fileOf(application)).value_or("");
+  const auto stored = valueIn(content, encoded(section), encoded(key));
+  if (!stored) return std::nullopt;
+  return text(unquoted(*stored)).toStdString();  // UTF-8, whatever stood there
+}
+
 std::string IniSettingsStore::read(std::string_view application, std::string_view section,
                                    std::string_view key, std::string_view fallback) const {
-  const QSettings store(fileOf(application), QSettings::IniFormat);
-  const QVariant value = store.value(pathOf(section, key));
-  return value.isValid() ? textOf(value).toStdString() : std::string(fallback);
+  return find(application, section, key).value_or(std::string(fallback));
 }
 
 void IniSettingsStore::write(std::string_view application, std::string_view section,
                              std::string_view key, std::string_view value) {
-  QSettings store(fileOf(application), QSettings::IniFormat);
-  const QString path = pathOf(section, key);
   // What is there already isn't written again: a disk takes its time.
-  const QVariant there = store.value(path);
-  if (!there.isValid() || textOf(there) != text(value)) store.setValue(path, text(value));
+  if (find(application, section, key) == value) return;
+  const std::string name = encoded(key);
+  const IniValue values[] = {{name, quoted(value)}};
+  writeIniValues(fileOf(application), encoded(section), values);
 }
 
 }  // namespace ratanka

@@ -1,13 +1,16 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 
 #include "platform/settings_store.h"
 
 namespace ratanka {
 
 // A readable text file for each application, `<folder>/<application>.ini`, with its sections and
-// keys. A write is all or nothing: a file is replaced as a whole, under a lock.
+// keys. A write is all or nothing: a file is replaced as a whole, under a lock. Of a damaged file
+// all is read that can be, and a write leaves the rest of it as it is; a file of more than a
+// megabyte is neither read nor written.
 class IniSettingsStore : public SettingsStore {
  public:
   // Creates nothing before the first write.
@@ -23,6 +26,8 @@ class IniSettingsStore : public SettingsStore {
 
  private:
   QString fileOf(std::string_view application) const;
+  std::optional<std::string> find(std::string_view application, std::string_view section,
+                                  std::string_view key) const;
 
   QString folder_;
 };

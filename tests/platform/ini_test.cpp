@@ -21,6 +21,7 @@ TEST(IniText, SetsOneValueAndKeepsAllElse) {
       {"; mine\n[T]\nKey One=1\n", "; mine\n[T]\nKey One=1\n[S]\nKey One=7\n"},
       {"[S]\na=1\n\n[T]\nKey One=1\n", "[S]\na=1\nKey One=7\n\n[T]\nKey One=1\n"},
       {"[S]\r\na=1\r\n", "[S]\r\na=1\r\nKey One=7\r\n"},
+      {"[S]\r", "[S]\r\nKey One=7\r\n"},
       {"Key One=1\n[S]\n", "Key One=1\n[S]\nKey One=7\n"},
       {"[S\n\xff\xfe=\n[]\n=\n", "[S\n\xff\xfe=\n[]\n=\n[S]\nKey One=7\n"},
   };

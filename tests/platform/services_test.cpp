@@ -45,12 +45,16 @@ TEST_F(SettingsTest, AReadCreatesNothing) {
 TEST_F(SettingsTest, NonsenseInTheFileIsReadAsFarAsItGoes) {
   QFile nonsense(file());
   ASSERT_TRUE(nonsense.open(QIODevice::WriteOnly));
-  nonsense.write("[Pucle]\n3=a, b\n=\n]][\0\xff\xfe[Pucle\n5\n");
+  nonsense.write(QByteArrayLiteral("[Pucle]\n3=a, b\n=\n]][\0\xff\xfe[Pucle\n5\n6=@Variant("));
+  // A list in a list in a list, for a toolkit that would unpack them.
+  nonsense.write(QByteArray("\0\0\0\x9\0\0\0\x1", 8).repeated(50000) + ")\n");
   nonsense.close();
   EXPECT_EQ(readAnew("3"), "a, b");
   EXPECT_EQ(readAnew("4"), "none");
   store.write("Rátanka - hra Pucle", "Pucle", "4", "20");
   EXPECT_EQ(readAnew("4"), "20");
+  EXPECT_EQ(readAnew("3"), "a, b");
+  EXPECT_TRUE(readAnew("6").starts_with("@Variant("));
 }
 
 TEST_F(SettingsTest, AFolderThatCannotBeWrittenForgetsInSilence) {

@@ -31,6 +31,10 @@ constexpr std::array<Rgb, 16> kPalette{{{0, 0, 0},
                                         {255, 255, 0},
                                         {255, 255, 255}}};
 
+constexpr std::string_view kApplication = "Ciferka";
+constexpr std::string_view kSection = "Hands";
+constexpr std::array<std::string_view, 3> kKeys{"mlHcolor", "mlMcolor", "mlScolor"};
+
 }  // namespace
 
 Angles handAngles(const TimeOfDay& time) {
@@ -66,6 +70,20 @@ int storedNumber(std::string_view text) {
 std::string storedText(int number) {
   std::string text(number < 0 ? 0 : 1, ' ');
   return text.append(std::to_string(number));
+}
+
+HandColours readHandColours(const SettingsStore& settings) {
+  HandColours colours{};
+  for (std::size_t hand = 0; hand < colours.size(); ++hand) {
+    colours.at(hand) = storedNumber(settings.read(kApplication, kSection, kKeys.at(hand), ""));
+  }
+  return colours;
+}
+
+void writeHandColours(SettingsStore& settings, const HandColours& colours) {
+  for (std::size_t hand = 0; hand < colours.size(); ++hand) {
+    settings.write(kApplication, kSection, kKeys.at(hand), storedText(colours.at(hand)));
+  }
 }
 
 }  // namespace ratanka::clock

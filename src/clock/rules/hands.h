@@ -1,9 +1,11 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "platform/clock.h"
+#include "platform/settings_store.h"
 #include "platform/units.h"
 
 // The hands of the clock: where they point and what colour they have. The face has units of its own
@@ -38,5 +40,10 @@ Rgb paletteColour(int index);
 int storedNumber(std::string_view text);
 // One that isn't negative has a blank in front.
 std::string storedText(int number);
+
+// Indices of the palette, of the hour, the minute and the second hand, as they are stored.
+using HandColours = std::array<int, 3>;
+HandColours readHandColours(const SettingsStore& settings);
+void writeHandColours(SettingsStore& settings, const HandColours& colours);
 
 }  // namespace ratanka::clock
