@@ -6,21 +6,17 @@
 #include <QImage>
 #include <QLabel>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <set>
 
+#include "all_forms.h"
 #include "blocks/kockovka_form.h"
-#include "blocks/options_form.h"
 #include "blocks/pics.h"
 #include "blocks/rules/tiles.h"
-#include "form_driver.h"
 #include "platform/controls.h"
-#include "shell/names.h"
 
 namespace ratanka::blocks {
 namespace {
 
-constexpr FormName kSheet{"sheet"};
 constexpr FormName kGame = names::frmKockovka;
 constexpr FormName kDialog = names::frmOptions;
 
@@ -34,23 +30,15 @@ class HastyClock : public Clock {
   mutable double now_ = 0;
 };
 
-class BlocksTest : public FormTest {
+class BlocksTest : public AllFormsTest {
  protected:
   BlocksTest() {
     forms.setMaker(kGame, [this] {
-      return std::make_shared<frmKockovka>(forms, clock, random, sound, options);
+      return std::make_shared<frmKockovka>(forms, hasty, random, sound, options);
     });
-    forms.setMaker(kDialog, [this] {
-      return std::make_shared<frmOptions>(forms, dialogs, options, settingsFile());
-    });
-    makePlain(kSheet);
-    forms.show(kSheet);
+    forms.show(names::Úvod);
     forms.show(kGame);
     activate(*window(kGame));
-  }
-  ~BlocksTest() override {
-    for (const FormName name : {kDialog, kGame, kSheet}) forms.drop(name);
-    settle();
   }
 
   QString settingsFile() const { return folder.filePath("Kockovka32.ini"); }
@@ -61,28 +49,29 @@ class BlocksTest : public FormTest {
   }
   static std::string caption() { return window(kGame)->windowTitle().toStdString(); }
 
-  // What the child does while the game is on, step by step, each in an event of its own. The game
-  // ends with the last one.
-  void playGame(std::vector<std::function<void()>> steps) {
-    steps_ = std::move(steps);
+  // What the child does while the game is on, step by step, each in an event of its own; an empty
+  // step lets time go by. The game ends with the last one.
+  using Steps = std::vector<std::function<void()>>;
+  static void playGame(const Steps& steps) {
     QTimer child;
     std::size_t next = 0;
     QObject::connect(&child, &QTimer::timeout, [&] {
-      if (next < steps_.size()) steps_[next++]();
+      if (next < steps.size()) steps[next++]();
     });
     child.start(0);
     item("mnuNewGame")->trigger();
-    EXPECT_EQ(next, steps_.size()) << "the game ended too early";
+    EXPECT_EQ(next, steps.size()) << "the game ended too early";
     settle();
   }
-  // An empty step: time goes by.
-  static std::vector<std::function<void()>> waiting(int events) {
-    return std::vector<std::function<void()>>(static_cast<std::size_t>(events), [] {});
-  }
+  static void endGame() { item("mnuEndGame")->trigger(); }
 
-  QColor boardPixel(int column, int row) const {
+  static QColor boardPixel(int column, int row) {
     QWidget* const board = control<QWidget>(kGame, "picBoard");
     return board->grab().toImage().pixelColor(2 + 16 * (column - 1) + 3, 2 + 16 * (row - 1) + 3);
+  }
+
+  static QColor nextPixel() {
+    return control<QWidget>(kGame, "picNext")->grab().toImage().pixelColor(37, 21);
   }
 
   void openOptions(const std::function<void()>& child) {
@@ -97,48 +86,51 @@ class BlocksTest : public FormTest {
   }
   static TextBox* level() { return control<TextBox>(kDialog, "txtStartingLevel"); }
 
-  HastyClock clock;
-  FakeRandom random;
-  FakeSound sound;
-  Options options;
-  QTemporaryDir folder;
-
- private:
-  std::vector<std::function<void()>> steps_;
+  HastyClock hasty;
 };
+
+const QColor kSquare(170, 43, 213);
+const QColor kEmpty(192, 192, 192);
+constexpr auto kPause = "Rátanka - hra Tetris : Pauza";
 
 TEST_F(BlocksTest, AGameIsSeenAndSteeredInItsWindow) {
   random.numbers = {0.9, 0.9, 0.0};  // squares, and the bar after them
   EXPECT_FALSE(item("mnuEndGame")->isEnabled());
   playGame({[] {},
             [this] {
-              EXPECT_EQ(boardPixel(5, 1), QColor(170, 43, 213));
-              EXPECT_EQ(boardPixel(6, 1), QColor(170, 43, 213));
-              EXPECT_EQ(boardPixel(4, 1), QColor(192, 192, 192));
+              EXPECT_EQ(boardPixel(5, 1), kSquare);
+              EXPECT_EQ(boardPixel(6, 1), kSquare);
+              EXPECT_EQ(boardPixel(4, 1), kEmpty);
               EXPECT_FALSE(item("mnuNewGame")->isEnabled());
               EXPECT_TRUE(item("mnuPause")->isEnabled());
-              QWidget* const next = control<QWidget>(kGame, "picNext");
-              EXPECT_EQ(next->grab().toImage().pixelColor(37, 21), QColor(170, 43, 213));
+              EXPECT_EQ(nextPixel(), kSquare);
+              strike(Qt::Key_Left);
             },
-            [] { strike(Qt::Key_Left); },
             [this] {
-              EXPECT_EQ(boardPixel(4, 2), QColor(170, 43, 213));
-              EXPECT_EQ(boardPixel(6, 2), QColor(192, 192, 192));
+              EXPECT_EQ(boardPixel(4, 2), kSquare);
+              EXPECT_EQ(boardPixel(6, 2), kEmpty);
+              strike(Qt::Key_Down);
             },
-            [this] { strike(Qt::Key_Down); },
             [this] {
-              EXPECT_EQ(boardPixel(4, 18), QColor(170, 43, 213));
+              EXPECT_EQ(boardPixel(4, 18), kSquare);
               EXPECT_NE(label("lblScore"), "0");
-              item("mnuEndGame")->trigger();
+              EXPECT_EQ(label("lblLines"), "0");
+              endGame();
             }});
   EXPECT_TRUE(item("mnuNewGame")->isEnabled());
   EXPECT_FALSE(item("mnuPause")->isEnabled());
-  EXPECT_EQ(sound.played, (std::vector<std::string>{}));  // off at first
+  EXPECT_TRUE(sound.played.empty());  // off at first
 
   // A window that comes up anew shows nothing of the old game.
   window(kGame)->close();
   forms.show(kGame);
-  EXPECT_EQ(boardPixel(4, 18), QColor(192, 192, 192));
+  EXPECT_EQ(boardPixel(4, 18), kEmpty);
+  EXPECT_EQ(nextPixel(), kEmpty);
+  options.StartingLevel = 3;
+  playGame({[] {
+    EXPECT_EQ(label("lblLevel"), "3");
+    endGame();
+  }});
 }
 
 TEST_F(BlocksTest, SoundsAreSwitchedOnAndOffInMidGame) {
@@ -147,73 +139,59 @@ TEST_F(BlocksTest, SoundsAreSwitchedOnAndOffInMidGame) {
             [this] {
               EXPECT_EQ(sound.played.front(), "open Tetris.mid");
               EXPECT_EQ(sound.played.back(), "close");
-              item("mnuEndGame")->trigger();
+              endGame();
             }});
 }
 
-TEST_F(BlocksTest, APauseShowsInTheCaptionAndEndsByItsKey) {
-  playGame({[] {}, [] { strike(Qt::Key_P); }, [] {},
-            [] {
-              EXPECT_EQ(caption(), "Rátanka - hra Tetris : Pauza");
-              strike(Qt::Key_P);
-            },
-            [] {}, [] { strike(Qt::Key_F3); }, [] {},
-            [this] {
-              EXPECT_EQ(caption(), "Rátanka - hra Tetris : Pauza");
-              item("mnuEndGame")->trigger();
-            }});
-  EXPECT_EQ(caption(), "Rátanka - hra Tetris");
-}
-
-TEST_F(BlocksTest, ComesBackFromTheTaskBarPaused) {
-  playGame({[] { window(kGame)->showMinimized(); },
-            [] { EXPECT_NE(caption(), "Rátanka - hra Tetris : Pauza"); },
-            [] {
-              for (QWidget* const widget : QApplication::topLevelWidgets()) {
-                if (widget->isMinimized()) widget->showNormal();
-              }
-            },
-            [] {},
-            [this] {
-              EXPECT_EQ(caption(), "Rátanka - hra Tetris : Pauza");
-              item("mnuEndGame")->trigger();
-            }});
+TEST_F(BlocksTest, APauseByAKeyTheOptionsOrTheTaskBarShowsInTheCaption) {
+  const Steps byP{[] { strike(Qt::Key_P); }};
+  const Steps byMenu{[] { strike(Qt::Key_F3); }};
+  const Steps byOptions{[this] { openOptions([] { strike(Qt::Key_Escape); }); }};
+  const Steps byTaskBar{[] { window(kGame)->showMinimized(); },
+                        [] { EXPECT_NE(caption(), kPause); },
+                        [] {
+                          for (QWidget* const widget : QApplication::topLevelWidgets()) {
+                            if (widget->isMinimized()) widget->showNormal();
+                          }
+                        }};
+  for (const Steps& road : {byP, byMenu, byOptions, byTaskBar}) {
+    Steps steps = road;
+    steps.insert(steps.begin(), [] {});  // the first piece comes
+    steps.insert(steps.end(), {[] {},
+                               [] {
+                                 EXPECT_EQ(caption(), kPause);
+                                 strike(Qt::Key_P);
+                               },
+                               [] {}, [] { strike(Qt::Key_F3); }, [] {},
+                               [] {
+                                 EXPECT_EQ(caption(), kPause);
+                                 endGame();
+                               }});
+    playGame(steps);
+    EXPECT_EQ(caption(), "Rátanka - hra Tetris");
+  }
 }
 
 TEST_F(BlocksTest, AGameEndsWithItsWindowByEachRoad) {
-  const std::vector<std::function<void()>> roads{
-      [] { window(kGame)->close(); },
-      [this] { item("mnuExit")->trigger(); },
-      [this] { forms.drop(kGame); },
-      [] { strike(Qt::Key_F4); },
-  };
   options.PlaySounds = true;
-  for (const auto& road : roads) {
+  const auto closeIt = [] { window(kGame)->close(); };
+  for (const Steps& road :
+       {Steps{[] {}, closeIt}, Steps{[] {}, [] { item("mnuExit")->trigger(); }},
+        Steps{[] {}, [this] { forms.drop(kGame); }}, Steps{[] { strike(Qt::Key_F4); }},
+        Steps{[] {}, [] { strike(Qt::Key_P); }, [] {}, closeIt}, Steps{[this] {
+          openOptions([this] {
+            forms.drop(kGame);
+            forms.drop(kDialog);
+          });
+        }}}) {
     forms.show(kGame);
     activate(*window(kGame));
     sound.played.clear();
-    auto steps = waiting(3);
-    steps.push_back(road);
-    playGame(steps);
+    playGame(road);
     EXPECT_FALSE(forms.isLoaded(kGame));
     EXPECT_EQ(sound.played.front(), "open Tetris.mid");
     EXPECT_EQ(sound.played.back(), "close");
   }
-}
-
-TEST_F(BlocksTest, AGameEndsWithItsWindowInAPauseAndUnderItsOptions) {
-  playGame({[] { strike(Qt::Key_P); }, [] {}, [] { window(kGame)->close(); }});
-  EXPECT_FALSE(forms.isLoaded(kGame));
-
-  forms.show(kGame);
-  activate(*window(kGame));
-  playGame({[this] {
-    openOptions([this] {
-      forms.drop(kGame);
-      forms.drop(kDialog);
-    });
-  }});
-  EXPECT_FALSE(forms.isLoaded(kGame));
 }
 
 TEST_F(BlocksTest, TheProgramMayEndInAGame) {
@@ -222,9 +200,9 @@ TEST_F(BlocksTest, TheProgramMayEndInAGame) {
 }
 
 TEST_F(BlocksTest, OptionsAreTakenAndWritten) {
-  options.FillLines = true;
+  options = {.StartingLevel = 4, .FillLines = true};
   openOptions([] {
-    EXPECT_EQ(level()->text(), "");
+    EXPECT_EQ(level()->text(), "4");
     EXPECT_TRUE(control<QCheckBox>(kDialog, "chkFillLines")->isChecked());
     EXPECT_FALSE(control<QCheckBox>(kDialog, "chkPlaySounds")->isChecked());
     type("2.5");
@@ -242,12 +220,16 @@ TEST_F(BlocksTest, OptionsAreTakenAndWritten) {
 }
 
 TEST_F(BlocksTest, ZrušiťAndEscChangeNothing) {
-  for (const bool byEsc : {false, true}) {
-    openOptions([byEsc] {
+  for (const auto& way :
+       Steps{[] { strike(Qt::Key_Escape); }, [] { click(control<Button>(kDialog, "Command1")); },
+             [] {
+               control<Button>(kDialog, "Command1")->setFocus();
+               strike(Qt::Key_Return);
+             }}) {
+    openOptions([&way] {
       type("3");
       control<QCheckBox>(kDialog, "chkPlaySounds")->setChecked(true);
-      if (byEsc) strike(Qt::Key_Escape);
-      if (!byEsc) click(control<Button>(kDialog, "Command1"));
+      way();
     });
     EXPECT_FALSE(options.StartingLevel.has_value());
     EXPECT_FALSE(options.PlaySounds.has_value());
@@ -257,23 +239,25 @@ TEST_F(BlocksTest, ZrušiťAndEscChangeNothing) {
 
 TEST_F(BlocksTest, ABadLevelIsToldOnceAndTheOldOneComesBack) {
   options.StartingLevel = 4;
-  const std::vector<std::function<void()>> ways{
-      [] { click(control<Button>(kDialog, "cmdOk")); },
-      [] { strike(Qt::Key_Return); },
-      [] {
-        strike(Qt::Key_Tab);
-        EXPECT_EQ(level()->text(), "4");
-        click(control<Button>(kDialog, "cmdOk"));
-      },
-      [] { click(control<Button>(kDialog, "Command1")); },
-  };
+  const auto ok = [] { click(control<Button>(kDialog, "cmdOk")); };
+  const Steps ways{ok, [] { strike(Qt::Key_Return); },
+                   [&] {
+                     strike(Qt::Key_Tab);
+                     EXPECT_EQ(level()->text(), "4");
+                     ok();
+                   },
+                   [] { click(control<Button>(kDialog, "Command1")); },
+                   [] {
+                     QTest::mouseClick(control<QCheckBox>(kDialog, "chkFillLines"),
+                                       Qt::RightButton);
+                     strike(Qt::Key_Return);
+                   }};
   for (const auto& way : ways) {
     for (const auto& [typed, told] : {std::pair{"10", " Číslo musí mať hodnotu medzi 1 a 9"},
                                       {"abc", "V poli LEVEL prosím zadajte číslo medzi 1 a 9"}}) {
       dialogs.shown.clear();
       dialogs.expect("Rátanka - hra TETRIS");
       openOptions([&, typed = typed] {
-        level()->selectAll();
         type(typed);
         way();
       });
@@ -282,23 +266,6 @@ TEST_F(BlocksTest, ABadLevelIsToldOnceAndTheOldOneComesBack) {
       EXPECT_EQ(options.StartingLevel, 4);
     }
   }
-}
-
-TEST_F(BlocksTest, AnyMouseButtonThatLeavesABadLevelBringsItsBox) {
-  dialogs.expect("Rátanka - hra TETRIS");
-  openOptions([] {
-    type("abc");
-    QTest::mouseClick(control<QCheckBox>(kDialog, "chkFillLines"), Qt::RightButton);
-    strike(Qt::Key_Return);
-  });
-}
-
-TEST_F(BlocksTest, OptionsPauseAGame) {
-  playGame({[this] { openOptions([] { strike(Qt::Key_Escape); }); }, [] {},
-            [this] {
-              EXPECT_EQ(caption(), "Rátanka - hra Tetris : Pauza");
-              item("mnuEndGame")->trigger();
-            }});
 }
 
 // Tiles at every magnification: each pixel of the device is one of the tile's own colours.

@@ -3,10 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
-#include <deque>
 #include <functional>
 #include <map>
 #include <stdexcept>
@@ -35,6 +35,62 @@ inline void expectSame(const Well& well, const Well& expected) {
   EXPECT_EQ(picture(well), picture(expected));
 }
 
+// A piece as a referee knows it: how it comes in, and the law of its turns.
+struct Piece {
+  struct Square {
+    int column, row;
+  };
+
+  int kind = 0;
+  Square pivot{};
+  std::array<Square, 4> cells{};  // from the pivot
+  int turns = 0;
+
+  static Piece fresh(int kind) {
+    static constexpr std::array<Square, 4> kCells[] = {
+        {{{-1, 0}, {0, 0}, {1, 0}, {2, 0}}},   {{{-1, -1}, {-1, 0}, {0, 0}, {1, 0}}},
+        {{{1, -1}, {-1, 0}, {0, 0}, {1, 0}}},  {{{-1, -1}, {0, -1}, {0, 0}, {1, 0}}},
+        {{{0, -1}, {1, -1}, {-1, 0}, {0, 0}}}, {{{0, -1}, {-1, 0}, {0, 0}, {1, 0}}},
+        {{{0, -1}, {1, -1}, {0, 0}, {1, 0}}}};
+    return {kind, {5, kind == 1 ? 1 : 2}, kCells[kind - 1], 0};
+  }
+
+  Piece moved(int columns, int rows) const {
+    Piece piece = *this;
+    piece.pivot = {pivot.column + columns, pivot.row + rows};
+    return piece;
+  }
+
+  Piece turned() const {
+    Piece piece = *this;
+    if (kind == 7) return piece;
+    const bool isBack = (kind == 1 || kind == 4 || kind == 5) && turns % 2 == 1;
+    const int sign = isBack ? -1 : 1;
+    for (Square& cell : piece.cells) cell = {-sign * cell.row, sign * cell.column};
+    ++piece.turns;
+    return piece;
+  }
+
+  bool fits(const Well& well) const {
+    return std::ranges::all_of(cells, [&](const Square& cell) {
+      const int column = pivot.column + cell.column;
+      const int row = pivot.row + cell.row;
+      return column >= 1 && column <= 10 && row >= 1 && row <= 18 && well.at(column, row) == 0;
+    });
+  }
+
+  Piece dropped(const Well& well) const {
+    const Piece next = moved(0, 1);
+    return next.fits(well) ? next.dropped(well) : *this;
+  }
+
+  Well in(Well well) const {
+    for (const Square& cell : cells)
+      well.at(pivot.column + cell.column, pivot.row + cell.row) = kind;
+    return well;
+  }
+};
+
 // A window that nobody sees, and a clock that moves only while the engine sleeps. It notes what it
 // is asked for, and shows what a screen would that is painted only where a cell has changed.
 class FakeStage : public Stage, public Clock {
@@ -49,9 +105,9 @@ class FakeStage : public Stage, public Clock {
   // The notes that contain a word.
   std::vector<std::string> notes(std::string_view word) const {
     std::vector<std::string> found;
-    for (const std::string& note : log) {
-      if (note.find(word) != std::string::npos) found.push_back(note);
-    }
+    std::ranges::copy_if(log, std::back_inserter(found), [&](const std::string& note) {
+      return note.find(word) != std::string::npos;
+    });
     return found;
   }
 
@@ -60,12 +116,7 @@ class FakeStage : public Stage, public Clock {
     if (board != oldBoard) note("draw");
   }
   void repaintBoard() override { note("repaint"); }
-  void showNext(int kind) override {
-    note("next " + std::to_string(kind));
-    if (turns.empty()) return;
-    script_.emplace(now_, turns.front());
-    turns.pop_front();
-  }
+  void showNext(int kind) override { note("next " + std::to_string(kind)); }
   void write(Label label, const std::string& text) override { labels[label] = text; }
   void setCaption(std::string_view text) override { note("caption " + std::string(text)); }
   void setMenu(bool isInGame) override { note(isInGame ? "menu in game" : "menu at rest"); }
@@ -89,7 +140,6 @@ class FakeStage : public Stage, public Clock {
 
   double beginning = 36000;  // seconds after a midnight
   WindowState state = WindowState::normal;
-  std::deque<std::function<void()>> turns;  // what happens as one piece after the other comes
   std::map<Label, std::string> labels;
   std::vector<std::string> log;  // "1.500 Tetris2.wav": the seconds, and what was asked for
   Well screen;
@@ -106,16 +156,16 @@ class FakeStage : public Stage, public Clock {
     expectSame(screen, board);
   }
 
+ private:
+  static constexpr int kPatience = 100000;
+
+  static std::int64_t microseconds(double seconds) { return std::llround(seconds * 1e6); }
+
   void note(const std::string& what) {
     char time[32];
     std::snprintf(time, sizeof time, "%.3f ", seconds());
     log.push_back(time + what);
   }
-
- private:
-  static constexpr int kPatience = 100000;
-
-  static std::int64_t microseconds(double seconds) { return std::llround(seconds * 1e6); }
 
   void runDue() {
     while (!script_.empty() && script_.begin()->first <= now_) {

@@ -1,5 +1,3 @@
-#include "piano/klavir.h"
-
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -8,28 +6,19 @@
 #include <QScrollBar>
 #include <utility>
 
-#include "form_driver.h"
+#include "all_forms.h"
+#include "piano/rules/keys.h"
 #include "platform/held_keys.h"
-#include "shell/names.h"
 
 namespace ratanka::piano {
 namespace {
 
-constexpr FormName kSheet{"sheet"};
+constexpr FormName kMenu = names::Úvod;
 constexpr FormName kPiano = names::Klavír;
 
-class KlavírTest : public FormTest {
+class KlavírTest : public AllFormsTest {
  protected:
-  KlavírTest() {
-    forms.setMaker(kPiano, [this] { return std::make_shared<Klavír>(forms, dialogs, midi); });
-    makePlain(kSheet);
-    forms.show(kSheet);
-  }
-  ~KlavírTest() override {
-    forms.drop(kPiano);
-    forms.drop(kSheet);
-    settle();
-  }
+  KlavírTest() { forms.show(kMenu); }
 
   void open() {
     forms.show(kPiano);
@@ -48,8 +37,6 @@ class KlavírTest : public FormTest {
     return seen;
   }
   static QAction* item(const char* name) { return control<QAction>(kPiano, name); }
-
-  FakeMidi midi;
 };
 
 TEST_F(KlavírTest, PlaysTheComputersKeysAndTheMouse) {
@@ -72,20 +59,7 @@ TEST_F(KlavírTest, PlaysTheComputersKeysAndTheMouse) {
   EXPECT_EQ(calls(), "");
 }
 
-TEST_F(KlavírTest, AHeldKeySoundsOnce) {
-  open();
-  press(Qt::Key_X);
-  QWindow* const handle = window(kPiano)->windowHandle();
-  for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyPress}) {
-    QKeyEvent repeat(type, Qt::Key_X, Qt::NoModifier, "x", true);
-    QCoreApplication::sendEvent(handle, &repeat);
-  }
-  EXPECT_EQ(calls(), "7F3E90 ");
-  release(Qt::Key_X);
-  EXPECT_EQ(calls(), "003E80 ");
-}
-
-TEST_F(KlavírTest, AKeyHeldThroughABoxDoesNotHang) {
+TEST_F(KlavírTest, AHeldKeySoundsOnceAndDoesNotHangThroughABox) {
   open();
   const auto send = [](FormName to, QEvent::Type type, bool repeats, quint64 time) {
     QKeyEvent event(type, Qt::Key_Z, Qt::NoModifier, "z", repeats);
@@ -94,9 +68,13 @@ TEST_F(KlavírTest, AKeyHeldThroughABoxDoesNotHang) {
   };
   HeldKeys held;
   send(kPiano, QEvent::KeyPress, false, 1);
-  activate(*window(kSheet));  // stands for the box
+  for (const auto type : {QEvent::KeyRelease, QEvent::KeyPress, QEvent::KeyPress}) {
+    send(kPiano, type, true, 1);
+  }
+  EXPECT_EQ(calls(), "7F3C90 ");
+  activate(*window(kMenu));  // stands for the box
   held.boxOpened();
-  send(kSheet, QEvent::KeyPress, true, 2);
+  send(kMenu, QEvent::KeyPress, true, 2);
   held.boxClosed();
   activate(*window(kPiano));
   send(kPiano, QEvent::KeyPress, true, 3);
@@ -120,7 +98,7 @@ TEST_F(KlavírTest, AKeyComesUpAsWhatItWentDownAs) {
 TEST_F(KlavírTest, NoKeyHangsWhenSomethingTakesTheKeyboard) {
   open();
   press(Qt::Key_Z);
-  activate(*window(kSheet));
+  activate(*window(kMenu));
   EXPECT_EQ(keysDown(), ".................");
   EXPECT_EQ(calls(), "7F3C90 003C80 ");
   activate(*window(kPiano));
@@ -130,35 +108,36 @@ TEST_F(KlavírTest, NoKeyHangsWhenSomethingTakesTheKeyboard) {
   control<QMenu>(kPiano, "ChannelOption")->close();
 }
 
-TEST_F(KlavírTest, MenusChooseDeviceAndChannel) {
+TEST_F(KlavírTest, MenusChooseDeviceAndChannelAndEachOpeningStartsAfresh) {
   midi.numDevices = 12;
   open();
+  const auto checked = [](const QString& menu, int items) {
+    std::string all;
+    for (int index = 0; index < items; ++index) {
+      const auto* const each = control<QAction>(kPiano, QString("%1(%2)").arg(menu).arg(index));
+      if (each->isChecked()) all += std::to_string(index) + ' ';
+    }
+    return all;
+  };
   EXPECT_EQ(item("device(0)")->text(), "MIDI Mapper");
   EXPECT_EQ(item("device(10)")->text(), "Zvuk 9");
   EXPECT_TRUE(item("device(10)")->isVisible());
-  EXPECT_TRUE(item("device(0)")->isChecked());
-  item("device(3)")->trigger();
-  EXPECT_EQ(calls(), "close open 2 ");
-  EXPECT_FALSE(item("device(0)")->isChecked());
-  EXPECT_TRUE(item("device(3)")->isChecked());
-  item("device(3)")->trigger();  // once more: stays checked
-  EXPECT_TRUE(item("device(3)")->isChecked());
-
-  EXPECT_TRUE(item("chan(0)")->isChecked());
+  EXPECT_EQ(checked("device", 11) + checked("chan", 16), "0 0 ");
+  for (int twice = 0; twice < 2; ++twice) {
+    item("device(3)")->trigger();
+    EXPECT_EQ(calls(), "close open 2 ");
+    EXPECT_EQ(checked("device", 11), "3 ");
+  }
   item("chan(15)")->trigger();
-  EXPECT_FALSE(item("chan(0)")->isChecked());
-  EXPECT_TRUE(item("chan(15)")->isChecked());
-  calls();
+  EXPECT_EQ(checked("chan", 16), "15 ");
   press(Qt::Key_Z);
   EXPECT_EQ(calls(), "7F3C9F ");
 
-  // A new opening starts afresh, with the devices of its moment.
   midi.numDevices = 1;
   forms.unload(kPiano);
   EXPECT_EQ(calls(), "close ");
   open();
-  EXPECT_TRUE(item("chan(0)")->isChecked());
-  EXPECT_TRUE(item("device(0)")->isChecked());
+  EXPECT_EQ(checked("device", 11) + checked("chan", 16), "0 0 ");
   EXPECT_TRUE(item("device(1)")->isVisible());
   EXPECT_FALSE(item("device(2)")->isVisible());
 }
@@ -182,22 +161,20 @@ TEST_F(KlavírTest, TheBaseNoteIsAskedFor) {
 TEST_F(KlavírTest, TheVolumeIsLoudestAtTheLeft) {
   open();
   auto* const vol = control<QScrollBar>(kPiano, "vol");
+  const auto clickAt = [vol](int quarter, Qt::MouseButton button) {
+    QTest::mouseClick(vol, button, {}, {vol->width() * quarter / 4, vol->height() / 2});
+    return vol->value();
+  };
   EXPECT_EQ(vol->value(), 127);
-  EXPECT_EQ(vol->minimum(), 0);
-  QTest::mouseClick(vol, Qt::LeftButton, {}, {vol->width() * 3 / 4, vol->height() / 2});
-  EXPECT_EQ(vol->value(), 127 - vol->pageStep());
-  EXPECT_TRUE(vol->hasFocus());
+  EXPECT_EQ(clickAt(3, Qt::LeftButton), 111);
   strike(Qt::Key_Right);
-  EXPECT_EQ(vol->value(), 126 - vol->pageStep());
+  EXPECT_EQ(vol->value(), 110);
   strike(Qt::Key_Left);
-  EXPECT_EQ(vol->value(), 127 - vol->pageStep());
-  QTest::mouseClick(vol, Qt::RightButton, {}, {vol->width() * 3 / 4, vol->height() / 2});
-  EXPECT_EQ(vol->value(), 127 - vol->pageStep());
+  EXPECT_EQ(clickAt(3, Qt::RightButton), 111);
   EXPECT_EQ(vol->contextMenuPolicy(), Qt::NoContextMenu);
   vol->setValue(5);
-  QTest::mouseClick(vol, Qt::LeftButton, {}, {vol->width() / 4, vol->height() / 2});
-  EXPECT_EQ(vol->value(), 5 + vol->pageStep());
-  vol->setValue(0);
+  EXPECT_EQ(clickAt(1, Qt::LeftButton), 21);
+  vol->setValue(-1);
   press(Qt::Key_Z);
   EXPECT_EQ(calls(), "003C90 ");
 }

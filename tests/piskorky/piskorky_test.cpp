@@ -1,25 +1,19 @@
-#include "piskorky/piskorky.h"
-
 #include <QLabel>
 #include <QPushButton>
 
-#include "form_driver.h"
-#include "platform/controls.h"
+#include "all_forms.h"
+#include "piskorky/rules/board.h"
 #include "platform/timer.h"
-#include "shell/names.h"
 
 namespace ratanka::piskorky {
 namespace {
 
 constexpr auto kBox = "Piškôrky";
 
-class PiškôrkyTest : public FormTest {
+class PiškôrkyTest : public AllFormsTest {
  protected:
   PiškôrkyTest() {
-    forms.setMaker(names::Piškôrky,
-                   [this] { return std::make_shared<Piškôrky>(forms, dialogs, random); });
-    makePlain(names::Hádanka);
-    forms.show(names::Hádanka);
+    forms.show(names::Úvod);
     open();
   }
 
@@ -28,170 +22,133 @@ class PiškôrkyTest : public FormTest {
     settle();
   }
 
-  static QString textOf(const QString& name) {
-    return control<QLabel>(names::Piškôrky, name)->text();
+  static QLabel* cell(int index) {
+    return control<QLabel>(names::Piškôrky, QString("s(%1)").arg(index));
+  }
+  static QWidget* stroke(int index) {
+    return control<QWidget>(names::Piškôrky, QString("Line5(%1)").arg(index));
+  }
+  static void push(const char* button) {
+    click(control<QPushButton>(names::Piškôrky, button));
+    settle();
   }
 
-  // Nine signs row by row, "." for an empty cell.
-  static std::string board() {
-    std::string all;
-    for (int cell = 0; cell < kCells; ++cell) {
-      const std::string mark = textOf(QString("s(%1)").arg(cell)).toStdString();
-      all += mark.empty() ? "." : mark;
+  // Nine signs row by row, "." for an empty cell; then lblnum, the turn, the lines struck through,
+  // and the games won and lost.
+  static std::string seen() {
+    QString all;
+    for (int index = 0; index < kCells; ++index) {
+      const QString mark = cell(index)->text();
+      all += mark.isEmpty() ? "." : mark;
     }
-    return all;
-  }
-  static std::string strokes() {
-    std::string all;
+    for (const char* name : {"lblnum", "turn"}) {
+      all += ' ' + control<QLabel>(names::Piškôrky, name)->text();
+    }
+    all += " /";
     for (int index = 0; index < kLines; ++index) {
-      const bool isSeen =
-          control<QWidget>(names::Piškôrky, QString("Line5(%1)").arg(index))->isVisible();
-      if (isSeen) all += std::to_string(index);
+      if (stroke(index)->isVisible()) all += QString::number(index);
     }
-    return all;
+    for (const char* name : {"Label1(2)", "Label1(3)"}) {
+      all += ' ' + control<QLabel>(names::Piškôrky, name)->text();
+    }
+    return all.toStdString();
   }
 
-  // The child's move; where chance replies, it tries these cells.
-  void play(int cell, std::initializer_list<int> chance = {}) {
+  // The child's moves; where chance replies, it tries these cells.
+  void play(const std::vector<int>& moves, const std::vector<int>& chance) {
     for (const int tried : chance) random.draw(tried, kCells);
-    click(control<QLabel>(names::Piškôrky, QString("s(%1)").arg(cell)));
-    advance(10);
+    for (const int move : moves) {
+      click(cell(move));
+      advance(10);
+    }
   }
-
-  FakeRandom random;
 };
 
-TEST_F(PiškôrkyTest, AWonGame) {
-  play(0, {3});
-  EXPECT_EQ(board(), "X..O.....");
-  EXPECT_EQ(textOf("turn"), "X");
-  EXPECT_EQ(textOf("lblnum"), "3");
-  play(1, {0, 1, 6});  // filled cells are tried in vain
-  EXPECT_EQ(board(), "XX.O..O..");
-  EXPECT_EQ(random.reseeded, 4);
-  dialogs.expect(kBox, [] {
-    EXPECT_EQ(strokes(), "0");
-    EXPECT_EQ(textOf("Label1(2)"), "0");
-    EXPECT_EQ(textOf("turn"), "O");
-  });
-  play(2);
-  EXPECT_EQ(dialogs.shown.back().text, "Výborne!\r\n Vyhral si.");
-  EXPECT_EQ(textOf("Label1(2)"), "1");
-  EXPECT_EQ(textOf("Label1(3)"), "0");
-  EXPECT_EQ(textOf("turn"), "");
-  play(4);
-  EXPECT_EQ(board(), "XXXO..O..");
-
-  click(control<QPushButton>(names::Piškôrky, "Command1"));
-  settle();
-  EXPECT_EQ(board(), ".........");
-  EXPECT_EQ(strokes(), "");
-  EXPECT_EQ(textOf("Label1(2)"), "1");
-  EXPECT_EQ(textOf("turn"), "X");
-}
-
-TEST_F(PiškôrkyTest, TwoLinesAtOnceAreOneGame) {
-  play(0, {1});
-  play(2, {7});
-  play(4);
-  play(3);
-  EXPECT_EQ(board(), "XOXXXO.OO");
-  dialogs.expect(kBox, [] { EXPECT_EQ(strokes(), "37"); });
-  play(6);
-  EXPECT_EQ(textOf("Label1(2)"), "1");
-}
-
-TEST_F(PiškôrkyTest, ALostGame) {
-  play(0, {3});
-  play(1, {4});
-  dialogs.expect(kBox, [] { EXPECT_EQ(strokes(), "1"); });
-  play(8);  // the block at 2 stands before the win at 5
-  EXPECT_EQ(board(), "XXOOO...X");
-  play(7);
-  EXPECT_EQ(board(), "XXOOOO.XX");
-  EXPECT_EQ(dialogs.shown.back().text, "Prehral si.\r\n Nevadí, skús to znova!");
-  EXPECT_EQ(textOf("Label1(3)"), "1");
-  EXPECT_EQ(textOf("Label1(2)"), "0");
-}
-
-TEST_F(PiškôrkyTest, ATiedGame) {
-  play(0, {1});
-  play(4, {8});
-  play(5);
-  EXPECT_EQ(board(), "XO.OXX..O");
-  play(6);
-  EXPECT_EQ(board(), "XOOOXXX.O");
-  dialogs.expect(kBox);
-  play(7);
-  EXPECT_EQ(board(), "XOOOXXXXO");
-  EXPECT_EQ(dialogs.shown.back().text,
-            "Si úplne slabý hráč!\r\nUž to radšej vzdaj a venuj sa rátanke.");
-  EXPECT_EQ(dialogs.shown.back().icon, MessageBox::Icon::exclamation);
-  EXPECT_EQ(textOf("Label1(2)") + textOf("Label1(3)"), "00");
+TEST_F(PiškôrkyTest, EveryEndIsStruckToldAndCounted) {
+  using Cells = std::vector<int>;
+  const struct {
+    Cells moves, chance;
+    const char *before, *under, *after, *word;
+  } games[] = {{{0, 1, 2},
+                {3, 0, 1, 6},
+                "XX.O..O.. 5 X / 0 0",
+                "XXXO..O.. 7 O /0 0 0",
+                "XXXO..O.. 7  /0 1 0",
+                "Výborne!\r\n Vyhral si."},
+               {{0, 1, 8, 7},
+                {3, 4},
+                "XXOOO...X 7 X / 1 0",
+                "XXOOOO.XX 9 X /1 1 0",
+                "XXOOOO.XX 9  /1 1 1",
+                "Prehral si.\r\n Nevadí, skús to znova!"},
+               {{0, 4, 5, 6, 7},
+                {1, 8},
+                "XOOOXXX.O 9 X / 1 1",
+                "XOOOXXXXO 11 O / 1 1",
+                "XOOOXXXXO 11  / 1 1",
+                "Si úplne slabý hráč!\r\nUž to radšej vzdaj a venuj sa rátanke."}};
+  for (const auto& game : games) {
+    const int last = game.moves.back();
+    play(Cells(game.moves.begin(), game.moves.end() - 1), game.chance);
+    EXPECT_EQ(seen(), game.before);
+    dialogs.expect(kBox, [&] { EXPECT_EQ(seen(), game.under); });
+    for (const int move : {last, 4}) {  // the second one comes too late
+      play({move}, {});
+      EXPECT_EQ(seen(), game.after);
+    }
+    EXPECT_EQ(dialogs.shown.back().text, game.word);
+    const bool isTied = game.moves.size() == 5;
+    EXPECT_EQ(dialogs.shown.back().icon == MessageBox::Icon::exclamation, isTied);
+    push("Command1");
+  }
+  EXPECT_EQ(seen(), "......... 1 X / 1 1");
+  EXPECT_EQ(random.reseeded, 8);
 }
 
 TEST_F(PiškôrkyTest, CostsNothingWhileItWaitsForTheChild) {
   const auto* const poll = control<Timer>(names::Piškôrky, "Timer1");
   advance(5);
   EXPECT_FALSE(poll->isEnabled());
-  click(control<QLabel>(names::Piškôrky, "s(4)"));
+  click(cell(4));
   EXPECT_TRUE(poll->isEnabled());
   advance(10);
   EXPECT_FALSE(poll->isEnabled());
 }
 
-TEST_F(PiškôrkyTest, LeavesAndComesBackWithItsCountersAtZero) {
-  play(0, {3});
-  play(1, {6});
-  dialogs.expect(kBox);
-  play(2);
-  EXPECT_EQ(textOf("Label1(2)"), "1");
-  click(control<QPushButton>(names::Piškôrky, "Command2"));
-  settle();
-  EXPECT_FALSE(forms.isLoaded(names::Piškôrky));
-  open();
-  EXPECT_EQ(textOf("Label1(2)"), "0");
-  EXPECT_EQ(board(), ".........");
-}
-
-TEST_F(PiškôrkyTest, ClosedByItsFrameItStartsAnew) {
-  play(0, {3});
-  window(names::Piškôrky)->close();
-  settle();
-  open();
-  EXPECT_EQ(board(), ".........");
-  EXPECT_EQ(textOf("turn"), "X");
+TEST_F(PiškôrkyTest, ComesBackAfreshHoweverItWasLeft) {
+  for (const bool byItsFrame : {false, true}) {
+    dialogs.expect(kBox);
+    play({0, 1, 2}, {3, 6});
+    if (byItsFrame) window(names::Piškôrky)->close();
+    if (!byItsFrame) push("Command2");
+    EXPECT_FALSE(forms.isLoaded(names::Piškôrky));
+    open();
+    EXPECT_EQ(seen(), "......... 1 X / 0 0");
+  }
 }
 
 TEST_F(PiškôrkyTest, EachStrokeCrossesItsThreeCells) {
   for (int index = 0; index < kLines; ++index) {
-    const QRect stroke =
-        control<QWidget>(names::Piškôrky, QString("Line5(%1)").arg(index))->geometry();
+    const QRect place = stroke(index)->geometry();
     int crossed = 0;
-    for (const int cell : kLineCells.at(static_cast<std::size_t>(index))) {
-      const auto* const each = control<QLabel>(names::Piškôrky, QString("s(%1)").arg(cell));
-      crossed += stroke.intersects(each->geometry()) ? 1 : 0;
-      EXPECT_EQ(each->font().pixelSize(), 32);
+    for (const int each : kLineCells.at(static_cast<std::size_t>(index))) {
+      crossed += place.intersects(cell(each)->geometry()) ? 1 : 0;
     }
     EXPECT_EQ(crossed, 3) << index;
-    const bool isStraight = index < 6;
-    EXPECT_EQ(std::min(stroke.width(), stroke.height()) == 4, isStraight) << index;
+    EXPECT_EQ(std::min(place.width(), place.height()) == 4, index < 6) << index;  // straight
   }
 }
 
 TEST_F(PiškôrkyTest, GoingUnderItsOwnBoxIsHarmless) {
   for (const bool ends : {false, true}) {
     open();
-    play(0, {3});
-    play(1, {6});
     dialogs.expect(kBox, [this, ends] {
       if (ends) forms.endProgram();
       forms.drop(names::Piškôrky);
       settle();
     });
-    play(2);
+    play({0, 1, 2}, {3, 6});
     EXPECT_FALSE(forms.isLoaded(names::Piškôrky));
-    random.numbers.clear();
   }
 }
 

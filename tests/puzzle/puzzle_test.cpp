@@ -1,37 +1,25 @@
-#include "puzzle/puzzle.h"
-
 #include <gtest/gtest.h>
 
 #include <QAction>
 #include <QComboBox>
 #include <QWheelEvent>
 
-#include "form_driver.h"
+#include "all_forms.h"
 #include "platform/controls.h"
-#include "shell/names.h"
+#include "puzzle/rules/board.h"
 
 namespace ratanka::puzzle {
 namespace {
 
-constexpr FormName kSheet{"sheet"};
 constexpr FormName kPuzzle = names::frmPuzzle;
 
-class PuzzleTest : public FormTest {
+class PuzzleTest : public AllFormsTest {
  protected:
   PuzzleTest() {
-    forms.setMaker(kPuzzle, [this] {
-      return std::make_shared<frmPuzzle>(forms, dialogs, random, sound, settings);
-    });
-    makePlain(kSheet);
-    forms.show(kSheet);
+    forms.show(names::Úvod);
     forms.show(kPuzzle);
     activate(*window(kPuzzle));
     control<QComboBox>(kPuzzle, "cmbSize")->setCurrentText("3");
-  }
-  ~PuzzleTest() override {
-    forms.drop(kPuzzle);
-    forms.drop(kSheet);
-    settle();
   }
 
   static Button* tile(int place) {
@@ -50,14 +38,11 @@ class PuzzleTest : public FormTest {
     click(shuffle());
   }
   static constexpr int kLastTile = 8;
-
-  FakeRandom random;
-  FakeSound sound;
-  FakeSettings settings;
 };
 
 TEST_F(PuzzleTest, TilesSlideToTheHoleByAnyMouseButtonAndAtOnce) {
   EXPECT_FALSE(tile(8)->isVisible());
+  EXPECT_EQ(tile(5)->geometry(), QRect(175, 105, 70, 70));
   pressTile(5, Qt::RightButton);
   EXPECT_FALSE(tile(5)->isVisible());
   EXPECT_EQ(tile(8)->text(), "6");
@@ -88,8 +73,7 @@ TEST_F(PuzzleTest, AGameAgainstTheClockEndsInTheList) {
 
   dialogs.expect("Výsledková listina");
   strike(Qt::Key_F2);
-  EXPECT_EQ(dialogs.shown.front().text,
-            "Hra\tČas\tHráč\r\n3\t7\tĽubica\r\n4\t-\t-\r\n5\t-\t-\r\n6\t-\t-\r\n7\t-\t-\r\n");
+  EXPECT_NE(dialogs.shown.front().text.find("3\t7\tĽubica\r\n"), std::string::npos);
 }
 
 TEST_F(PuzzleTest, TheMenuTurnsTheSoundOffAndLeaves) {
@@ -110,31 +94,27 @@ TEST_F(PuzzleTest, AnotherSizeGivesUpTheGame) {
     int visible = 0;
     for (int place = 0; place < kButtons; ++place) visible += tile(place)->isVisible() ? 1 : 0;
     EXPECT_EQ(visible, size * size - 1);
+    advance(2000);
     EXPECT_EQ(caption(), "Pucle");
     EXPECT_EQ(shuffle()->text(), "Zamiešať");
   }
-  advance(2000);
-  EXPECT_EQ(caption(), "Pucle");
 }
 
-TEST_F(PuzzleTest, TheClockWaitsWhileTheWindowIsMinimised) {
+TEST_F(PuzzleTest, TheClockWaitsWhileMinimisedAndGoesOnUnderTheList) {
   shuffleByOneMove();
   advance(1000);
+  tile(0)->setFocus();
   window(kPuzzle)->showMinimized();
   advance(5000);
   window(kPuzzle)->showNormal();
   EXPECT_TRUE(shuffle()->hasFocus());
   EXPECT_EQ(caption(), "Čas: 1 s");
-  advance(1000);
-  EXPECT_EQ(caption(), "Čas: 2 s");
-}
-
-TEST_F(PuzzleTest, TheClockGoesOnUnderTheListAndNoWheelThatPassesEndsAGame) {
-  shuffleByOneMove();
-  advance(1000);
   dialogs.expect("Výsledková listina", [this] { advance(5000); });
   strike(Qt::Key_F2);
   EXPECT_EQ(caption(), "Čas: 6 s");
+}
+
+TEST_F(PuzzleTest, NoWheelThatPassesEndsAGame) {
   auto* const sizes = control<QComboBox>(kPuzzle, "cmbSize");
   const QPointF at(5, 5);
   QWheelEvent wheel(at, sizes->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,

@@ -7,87 +7,98 @@ namespace {
 
 class AllSheetsTest : public SheetTest {
  protected:
-  AllSheetsTest() : SheetTest(names::Malá) { forms.show(names::Úvod); }
+  AllSheetsTest() { forms.show(names::Úvod); }
 
-  void leave() {
-    click(button(sheet_ == names::Násobilka ? "Command5" : "Command3"));
-    settle();
+  void leave() { clickButton(sheet_ == names::Násobilka ? "Command5" : "Command3"); }
+
+  // The words of the counters' and the mark's tooltips.
+  std::string tooltips() const {
+    return (label(37)->toolTip() + label(38)->toolTip() + label(39)->toolTip()).toStdString();
   }
 };
 
+constexpr auto kSpeaks =
+    " Vypočítaných príkladov  Nevypočítaných príkladov  Priebežné hodnotenie  ";
+constexpr auto kMute = " Priebežné hodnotenie ";
+const QColor kRed(255, 0, 0);
+
+struct Sheet {
+  FormName name, game;
+  double Premenné::*percento;
+  const char* reward;
+  const char* tooltips = kMute;
+  QColor four{255, 128, 255}, wrong = kRed;
+  int signSize = 18;  // pixels
+  QRect mark{128, 456, 41, 33}, book{256, 456, 41, 36};
+  QPoint place{320, 448};  // of the reward
+};
+
+// clang-format off
+const Sheet kSheets[] = {
+    {.name = names::Delenie, .game = names::frmStartUp, .percento = &Premenné::PercentoDelenie,
+     .reward = " Minifutbal ", .mark{128, 448, 49, 41}, .book{256, 456, 49, 36}},
+    {.name = names::Malá, .game = names::Bludisko, .percento = &Premenné::PercentoMalá,
+     .reward = " Bludisko ", .tooltips = kSpeaks, .four = kRed, .book{256, 456, 57, 36},
+     .place{328, 440}},
+    {.name = names::Veľká, .game = names::Klavír, .percento = &Premenné::PercentoVeľká,
+     .reward = " Klavír ", .mark{136, 456, 41, 33}, .place{328, 448}},
+    {.name = names::Násobilka, .game = names::frmPuzzle, .percento = &Premenné::PercentoNásobilka,
+     .reward = " Pucle ", .wrong{192, 0, 0}, .signSize = 13},
+    {.name = names::Hádanka, .game = names::Piškôrky, .percento = &Premenné::PercentoHádanka,
+     .reward = "Piškôrky", .tooltips = kSpeaks, .four = kRed},
+    {.name = names::Veľkéčísla, .game = names::frmKockovka,
+     .percento = &Premenné::PercentoVeľkéčísla, .reward = " Tetris ", .tooltips = kSpeaks,
+     .signSize = 0},
+    {.name = names::Zátvorky, .game = names::frmStartUp, .percento = &Premenné::PercentoZátvorky,
+     .reward = " Minifutbal ", .tooltips = kSpeaks, .signSize = 0}};
+// clang-format on
+
 TEST_F(AllSheetsTest, AVisitWithAllRightByReadingTheCaptions) {
-  for (const SheetDesign& design : allSheets()) {
-    SCOPED_TRACE(design.name.text());
-    openSheet(design.name);
+  for (const Sheet& sheet : kSheets) {
+    SCOPED_TRACE(sheet.name.text());
+    const bool isNásobilka = sheet.name == names::Násobilka;
+    openSheet(sheet.name);
     EXPECT_TRUE(forms.isLoaded(names::Hodiny));
-    EXPECT_TRUE(window(design.name)->isActiveWindow());
+    EXPECT_TRUE(window(sheet.name)->isActiveWindow());
+    random.numbers.clear();
     for (int draw = 0; draw < 45; ++draw) random.numbers.push_back((draw * 37 % 100) / 100.0);
-    click(button(design.buttons[1].toUtf8()));  // new examples, of mixed numbers
+    clickButton(isNásobilka ? "Command4" : "Command2");  // new examples, of mixed numbers
     for (int row = 1; row <= kRows; ++row) {
       EXPECT_EQ(QApplication::focusWidget(), box(row));
       answerRight(row);
       EXPECT_TRUE(imageShown(3 * row - 2)) << readRow(row);
     }
-    EXPECT_EQ(caption(37), "9");
-    EXPECT_EQ(caption(39), "1");
-    EXPECT_EQ(premenné.*design.percento, 100);
-    QPushButton* const reward = button(design.buttons[0].toUtf8());
-    EXPECT_TRUE(reward->isVisible());
-    EXPECT_EQ(reward->toolTip(), design.reward.tooltip);
-    click(reward);
-    settle();
-    EXPECT_TRUE(forms.isLoaded(design.reward.game));
-    EXPECT_NE(window(design.name), nullptr);
+    EXPECT_EQ(strip(), "9 0 1");
+    EXPECT_EQ(premenné.*sheet.percento, 100);
+    const char* const reward = isNásobilka ? "Command3" : "Command1";
+    EXPECT_TRUE(button(reward)->isVisible());
+    EXPECT_EQ(button(reward)->toolTip(), sheet.reward);
+    clickButton(reward);
+    EXPECT_TRUE(forms.isLoaded(sheet.game));
+    EXPECT_NE(window(sheet.name), nullptr);
     leave();
-    EXPECT_FALSE(forms.isLoaded(design.name));
+    EXPECT_FALSE(forms.isLoaded(sheet.name));
     EXPECT_FALSE(forms.isLoaded(names::Hodiny));
     EXPECT_NE(window(names::Úvod), nullptr);
     // Only the blocks game ends with its sheet.
-    EXPECT_EQ(forms.isLoaded(design.reward.game), design.name != names::Veľkéčísla);
-    random.numbers.clear();
+    EXPECT_EQ(forms.isLoaded(sheet.game), sheet.name != names::Veľkéčísla);
+    forms.drop(sheet.game);
   }
 }
 
-TEST_F(AllSheetsTest, WordsAndColoursOfTheirOwn) {
-  for (const SheetDesign& design : allSheets()) {
-    SCOPED_TRACE(design.name.text());
-    openSheet(design.name);
-    const bool speaks = design.name == names::Malá || design.name == names::Hádanka ||
-                        design.name == names::Veľkéčísla || design.name == names::Zátvorky;
-    EXPECT_EQ(label(37)->toolTip(), speaks ? " Vypočítaných príkladov " : "");
-    EXPECT_EQ(label(38)->toolTip(), speaks ? " Nevypočítaných príkladov " : "");
-    EXPECT_EQ(label(39)->toolTip(), speaks ? " Priebežné hodnotenie  " : " Priebežné hodnotenie ");
-    EXPECT_EQ(label(38)->palette().color(QPalette::WindowText),
-              design.name == names::Násobilka ? QColor(192, 0, 0) : QColor(255, 0, 0));
-    leave();
-  }
-}
-
-TEST_F(AllSheetsTest, PlacesAndColoursOfTheirOwn) {
-  const struct {
-    FormName name;
-    QRect mark, book;
-    QPoint reward;
-    int signSize;
-    QColor four;
-  } sheets[] = {
-      {names::Delenie, {128, 448, 49, 41}, {256, 456, 49, 36}, {320, 448}, 18, {255, 128, 255}},
-      {names::Malá, {128, 456, 41, 33}, {256, 456, 57, 36}, {328, 440}, 18, {255, 0, 0}},
-      {names::Veľká, {136, 456, 41, 33}, {256, 456, 41, 36}, {328, 448}, 18, {255, 128, 255}},
-      {names::Násobilka, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 13, {255, 128, 255}},
-      {names::Hádanka, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 18, {255, 0, 0}},
-      {names::Veľkéčísla, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 0, {255, 128, 255}},
-      {names::Zátvorky, {128, 456, 41, 33}, {256, 456, 41, 36}, {320, 448}, 0, {255, 128, 255}}};
-  for (const auto& sheet : sheets) {
+TEST_F(AllSheetsTest, WordsPlacesAndColoursOfTheirOwn) {
+  for (const Sheet& sheet : kSheets) {
     SCOPED_TRACE(sheet.name.text());
     openSheet(sheet.name);
     for (int row = 1; row <= 3; ++row) answerRow(row, row == 1);
-    answerRow(9, false);  // 1 of 4
-    EXPECT_EQ(caption(39), "4");
+    answerRow(9, false);
+    EXPECT_EQ(strip(), "1 3 4");
     EXPECT_EQ(label(39)->palette().color(QPalette::Window), sheet.four);
+    EXPECT_EQ(label(38)->palette().color(QPalette::WindowText), sheet.wrong);
+    EXPECT_EQ(tooltips(), sheet.tooltips);
     EXPECT_EQ(label(39)->geometry(), sheet.mark);
     EXPECT_EQ(control<QWidget>(sheet_, "Picture3")->geometry(), sheet.book);
-    EXPECT_EQ(button(sheet_ == names::Násobilka ? "Command3" : "Command1")->pos(), sheet.reward);
+    EXPECT_EQ(button(sheet_ == names::Násobilka ? "Command3" : "Command1")->pos(), sheet.place);
     if (sheet.signSize > 0) {
       EXPECT_EQ(label(2)->font().pixelSize(), sheet.signSize);
     }
@@ -105,25 +116,22 @@ TEST_F(AllSheetsTest, HádankaHasItsRowsInTwoOrders) {
   int number = 0;
   for (const auto& row : rows) {
     ++number;
-    EXPECT_EQ(box(number)->x(), row.box) << number;
-    EXPECT_EQ(label(row.known)->x(), row.box == 48 ? 176 : 72) << number;
-    EXPECT_EQ(label(row.sign)->x(), 136) << number;
-    EXPECT_EQ(label(row.right)->x(), 312) << number;
     const auto image = [&](int of) {
       return control<QWidget>(sheet_, "Image" + QString::number(of))->x();
     };
-    EXPECT_EQ(image(3 * number - 2), row.tick) << number;
-    EXPECT_EQ(image(3 * number - 1), row.cross) << number;
+    const std::array seen{box(number)->x(),      label(row.known)->x(), label(row.sign)->x(),
+                          label(row.right)->x(), image(3 * number - 2), image(3 * number - 1)};
+    EXPECT_EQ(seen, (std::array{row.box, row.box == 48 ? 176 : 72, 136, 312, row.tick, row.cross}))
+        << number;
   }
 }
 
 TEST_F(AllSheetsTest, TheClockComesWhenTheExamplesStand) {
-  std::string seen;
+  QString seen;
   forms.setMaker(names::Hodiny, [&] {
     // The sheet isn't shown yet, but it is laid out.
     for (QWidget* const widget : QApplication::topLevelWidgets()) {
-      if (widget->objectName() == "Malá")
-        seen = widget->findChild<QLabel*>("Label1")->text().toStdString();
+      if (widget->objectName() == "Malá") seen = widget->findChild<QLabel*>("Label1")->text();
     }
     return std::make_shared<PlainForm>(forms, names::Hodiny);
   });
@@ -132,75 +140,51 @@ TEST_F(AllSheetsTest, TheClockComesWhenTheExamplesStand) {
 }
 
 TEST_F(AllSheetsTest, EveryCaptionFitsItsLabel) {
-  const auto fits = [](const QLabel& label) {
-    return label.fontMetrics().horizontalAdvance(label.text()) <= label.width();
-  };
-  for (const SheetDesign& design : allSheets()) {
-    openSheet(design.name);
-    const bool hasBrackets = design.name == names::Zátvorky;
-    // The widest figures: two digits everywhere and subtractions all the way.
-    const std::pair<int, int> brackets[] = {{48, 50}, {10, 40}, {28, 30}, {10, 20}, {8, 10}};
-    const std::pair<int, int> chain[] = {{24, 25}, {10, 20}, {10, 15}, {8, 10}, {4, 5}};
+  // The widest figures: two digits everywhere and subtractions all the way.
+  const std::pair<int, int> brackets[] = {{48, 50}, {10, 40}, {28, 30}, {10, 20}, {8, 10}};
+  const std::pair<int, int> chain[] = {{24, 25}, {10, 20}, {10, 15}, {8, 10}, {4, 5}};
+  for (const Sheet& sheet : kSheets) {
+    random.numbers.clear();
     for (int row = 1; row <= kRows; ++row) {
-      for (const auto& [number, numbers] : hasBrackets ? brackets : chain) {
-        random.draw(number, numbers);
+      for (const auto& [number, of] : sheet.name == names::Zátvorky ? brackets : chain) {
+        random.draw(number, of);
       }
     }
-    click(button(design.buttons[1].toUtf8()));
-    label(37)->setText("188");
-    label(38)->setText("188");
-    label(36)->setText("198");
+    openSheet(sheet.name);
+    for (const int counter : {36, 37, 38}) label(counter)->setText("188");
     for (const QLabel* const each : window(sheet_)->findChildren<QLabel*>()) {
-      EXPECT_TRUE(fits(*each)) << design.name.text() << ' ' << each->text().toStdString();
+      EXPECT_LE(each->fontMetrics().horizontalAdvance(each->text()), each->width())
+          << sheet.name.text() << ' ' << each->text().toStdString();
     }
     leave();
-    random.numbers.clear();
   }
 }
 
 TEST_F(AllSheetsTest, HádankaCountsOnOverItsVisitsBehindZeros) {
   openSheet(names::Hádanka);
+  EXPECT_EQ(control<Timer>(names::Hádanka, "Timer2")->interval(), 150);
   for (int row = 1; row <= kRows; ++row) answerRow(row, row <= 5);
   EXPECT_EQ(premenné.PercentoHádanka, 56);  // 55.6
   leave();
-  openSheet();
-  EXPECT_EQ(caption(37), "0");
-  EXPECT_EQ(caption(38), "0");
-  EXPECT_EQ(caption(39), "");
+  openSheet(names::Hádanka);
+  EXPECT_EQ(strip(), "0 0 ");
   answerRow(1, true);
-  EXPECT_EQ(caption(37), "6");
-  EXPECT_EQ(caption(38), "0");
-  answerRow(2, false);
-  EXPECT_EQ(caption(38), "5");
-  EXPECT_EQ(control<Timer>(names::Hádanka, "Timer2")->interval(), 150);
+  EXPECT_EQ(strip(), "6 0 ");
 }
 
 TEST_F(AllSheetsTest, DelenieGoesOnInItsCycleOverTheVisits) {
-  const auto first = [this] { return readRow(1); };
-  const auto fresh = [this] {
-    click(button("Command2"));
-    settle();
-  };
-  openSheet(names::Delenie);
-  EXPECT_EQ(first(), "1 : 1=?");
-  fresh();
-  EXPECT_EQ(first(), "1 : 1=?");
-  fresh();
-  EXPECT_EQ(first(), "5 : 5=?");
-  leave();
-  openSheet();
-  EXPECT_EQ(first(), "1 : 1=?");
-  fresh();
-  EXPECT_EQ(first(), "8 : 4=?");
-  answerRow(1, false);
-  leave();
-  openSheet();
-  EXPECT_EQ(first(), "1 : 1=?");
-  fresh();
-  EXPECT_EQ(first(), "1 : 1=?");  // none in its turn: the last one is asked again
-  EXPECT_TRUE(box(1)->isEnabled());
-  fresh();
-  EXPECT_EQ(first(), "1 : 1=?");
+  for (const auto& visit : {std::vector{"1 : 1=?", "1 : 1=?", "5 : 5=?"},
+                            {"1 : 1=?", "8 : 4=?"},
+                            {"1 : 1=?", "1 : 1=?", "1 : 1=?", "5 : 5=?"}}) {
+    openSheet(names::Delenie);
+    for (const char* first : visit) {
+      EXPECT_EQ(readRow(1), first);
+      EXPECT_TRUE(box(1)->isEnabled());
+      answerRow(1, false);
+      if (first != visit.back()) clickButton("Command2");
+    }
+    leave();
+  }
 }
 
 TEST_F(AllSheetsTest, TheCalculatorRunsFromThePointer) {
@@ -209,33 +193,30 @@ TEST_F(AllSheetsTest, TheCalculatorRunsFromThePointer) {
   QPushButton* const right = button("Command5");
   EXPECT_EQ(left->geometry(), QRect(80, 384, 73, 25));
   EXPECT_EQ(right->geometry(), QRect(384, 384, 73, 25));
-  QTest::mouseMove(right, {20, 10});
-  QTest::mouseMove(right, {21, 10});
-  settle();
-  EXPECT_TRUE(left->isVisible());
-  EXPECT_FALSE(right->isVisible());
-  QTest::mouseMove(left, {20, 10});
-  QTest::mouseMove(left, {21, 10});
-  settle();
-  EXPECT_FALSE(left->isVisible());
-  EXPECT_TRUE(right->isVisible());
+  for (const auto& [caught, other] : {std::pair{right, left}, {left, right}}) {
+    QTest::mouseMove(caught, {20, 10});
+    QTest::mouseMove(caught, {21, 10});
+    settle();
+    EXPECT_FALSE(caught->isVisible());
+    EXPECT_TRUE(other->isVisible());
+  }
   right->click();
   EXPECT_EQ(QApplication::focusWidget(), box(1));
 }
 
-QString heard(QWidget* widget, QAccessible::Text part) {
-  return QAccessible::queryAccessibleInterface(widget)->text(part);
+std::string heard(QWidget* widget, QAccessible::Text part) {
+  return QAccessible::queryAccessibleInterface(widget)->text(part).toStdString();
 }
 
 TEST_F(AllSheetsTest, AChildWhoDoesNotSeeCanWorkItOut) {
-  for (const SheetDesign& design : allSheets()) {
-    openSheet(design.name);
+  for (const Sheet& sheet : kSheets) {
+    openSheet(sheet.name);
     for (QWidget* const widget : window(sheet_)->findChildren<QWidget*>()) {
       const bool isMute = widget->objectName().startsWith("Line") || widget->objectName().isEmpty();
       const auto* const text = qobject_cast<QLabel*>(widget);
       if (isMute || (text != nullptr && text->text().isEmpty())) continue;
-      EXPECT_FALSE(heard(widget, QAccessible::Name).isEmpty())
-          << design.name.text() << ' ' << widget->objectName().toStdString();
+      EXPECT_NE(heard(widget, QAccessible::Name), "")
+          << sheet.name.text() << ' ' << widget->objectName().toStdString();
     }
     leave();
   }

@@ -8,19 +8,20 @@
 
 namespace ratanka::sheets {
 
-// Reckons as a child reads: from left to right, brackets first.
+// Reckons as a child reads: from left to right, brackets first. A step below 0 and a sign that no
+// child knows are failures.
 class Reckoner {
  public:
-  explicit Reckoner(std::string text) : text_(std::move(text)) {}
-
-  // The value of the whole text; a step below 0 and a sign that no child knows are failures.
-  int value() {
-    const int result = chain();
-    EXPECT_EQ(at_, text_.size()) << text_;
+  static int value(const std::string& text) {
+    Reckoner reckoner(text);
+    const int result = reckoner.chain();
+    EXPECT_EQ(reckoner.at_, text.size()) << text;
     return result;
   }
 
  private:
+  explicit Reckoner(const std::string& text) : text_(text) {}
+
   char peek() {
     while (at_ < text_.size() && text_[at_] == ' ') ++at_;
     return at_ < text_.size() ? text_[at_] : '\0';
@@ -56,24 +57,21 @@ class Reckoner {
     return value;
   }
 
-  std::string text_;
+  const std::string& text_;
   std::size_t at_ = 0;
 };
 
-// The only number from 0 to 200 that makes an equation with a "?" true; none or several: failure.
+// The number that makes an equation with a "?" for an operand or for the right side true.
 inline std::optional<int> solve(const std::string& equation) {
   const std::size_t equals = equation.find('=');
-  const std::size_t gap = equation.find('?');
-  if (gap > equals) return Reckoner(equation.substr(0, equals)).value();
-  const int right = Reckoner(equation.substr(equals + 1)).value();
   const std::string left = equation.substr(0, equals);
-  const bool subtracts = left.find('-') != std::string::npos;
-  const std::string known = gap < left.find_first_of("+-")
-                                ? left.substr(left.find_first_of("+-") + 1)
-                                : left.substr(0, left.find_first_of("+-"));
-  const int operand = Reckoner(known).value();
-  if (!subtracts) return right - operand;
-  return gap < left.find('-') ? right + operand : operand - right;
+  const std::size_t gap = equation.find('?');
+  if (gap > equals) return Reckoner::value(left);
+  const int right = Reckoner::value(equation.substr(equals + 1));
+  const std::size_t sign = left.find_first_of("+-");
+  const int operand = Reckoner::value(gap < sign ? left.substr(sign + 1) : left.substr(0, sign));
+  if (left[sign] == '+') return right - operand;
+  return gap < sign ? right + operand : operand - right;
 }
 
 }  // namespace ratanka::sheets

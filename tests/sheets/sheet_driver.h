@@ -2,39 +2,26 @@
 
 #include <QLabel>
 #include <QPushButton>
-#include <algorithm>
 
-#include "form_driver.h"
+#include "all_forms.h"
 #include "platform/controls.h"
 #include "platform/timer.h"
-#include "sheets/exercise_sheet.h"
-#include "sheets/reckon.h"
-#include "sheets/sheets.h"
-#include "shell/names.h"
-#include "shell/uvod.h"
+#include "soak/reading.h"
 
 namespace ratanka::sheets {
 
 // All sheets with the menu behind them and a plain window for each game, and a child at one sheet.
-class SheetTest : public FormTest {
+class SheetTest : public AllFormsTest {
  protected:
-  explicit SheetTest(FormName sheet) : sheet_(sheet) {
-    forms.setMaker(names::Úvod, [this] { return std::make_shared<Úvod>(forms); });
+  SheetTest() {
     makePlain(names::Hodiny);
-    for (const SheetDesign& design : allSheets()) {
-      forms.setMaker(design.name,
-                     [this, design] { return std::make_shared<ExerciseSheet>(services, design); });
-      makePlain(design.reward.game);
-    }
+    for (const SheetDesign& design : allSheets()) makePlain(design.reward.game);
   }
 
-  void openSheet() {
-    forms.show(sheet_);
-    settle();
-  }
   void openSheet(FormName name) {
     sheet_ = name;
-    openSheet();
+    forms.show(sheet_);
+    settle();
   }
 
   QLabel* label(int number) const {
@@ -47,23 +34,14 @@ class SheetTest : public FormTest {
   TextBox* box(int row) const { return control<TextBox>(sheet_, "Text" + QString::number(row)); }
   QPushButton* button(const char* name) const { return control<QPushButton>(sheet_, name); }
   Timer* pause() const { return control<Timer>(sheet_, "Timer1"); }
-
-  // What stands in a row, from left to right, with "?" for the box.
-  std::string readRow(int row) const {
-    const int top = box(row)->y();
-    std::vector<std::pair<int, std::string>> pieces{{box(row)->x(), "?"}};
-    const QWidget* const equals = control<QWidget>(sheet_, "Line" + QString::number(2 * row - 1));
-    pieces.emplace_back(equals->x(), "=");
-    for (const QLabel* const piece : window(sheet_)->findChildren<QLabel*>()) {
-      const bool isCorrection = piece->objectName() == "Label" + QString::number(4 * row);
-      if (piece->y() != top || isCorrection || piece->text().isEmpty()) continue;
-      pieces.emplace_back(piece->x(), piece->text().toStdString());
-    }
-    std::sort(pieces.begin(), pieces.end());
-    std::string read;
-    for (const auto& piece : pieces) read += piece.second;
-    return read;
+  void clickButton(const char* name) const {
+    click(button(name));
+    settle();
   }
+  // The counters of right and wrong answers, and the mark.
+  std::string strip() const { return caption(37) + ' ' + caption(38) + ' ' + caption(39); }
+
+  std::string readRow(int row) const { return soak::readRow(*window(sheet_), *box(row)); }
   int result(int row) const { return solve(readRow(row)).value(); }
 
   // Types into whatever box has the keyboard and presses Enter.
@@ -85,10 +63,7 @@ class SheetTest : public FormTest {
     answer("");
   }
 
-  FormName sheet_;
-  FakeRandom random;
-  Premenné premenné;
-  SheetServices services{forms, dialogs, random, premenné};
+  FormName sheet_ = names::Malá;
 };
 
 }  // namespace ratanka::sheets

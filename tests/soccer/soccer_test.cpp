@@ -6,100 +6,88 @@
 #include <QMenu>
 #include <QPushButton>
 
-#include "form_driver.h"
-#include "platform/timer.h"
-#include "shell/names.h"
-#include "soccer/player1.h"
-#include "soccer/player2.h"
-#include "soccer/select_player.h"
-#include "soccer/start_up.h"
+#include "all_forms.h"
+#include "soccer/rules/game_library.h"
 
 namespace ratanka::soccer {
 namespace {
 
-constexpr FormName kSheet{"sheet"};
+constexpr FormName kTitle = names::frmStartUp;
+constexpr FormName kChoice = names::frmSelectPlayer;
+constexpr FormName kOne = names::frmPlayer1;
+constexpr FormName kTwo = names::frmPlayer2;
 
-class SoccerTest : public FormTest {
+constexpr QPoint kRedAtStart{24, 264};
+constexpr QPoint kBlueAtStart{728, 264};
+
+class SoccerTest : public AllFormsTest {
  protected:
   SoccerTest() {
-    forms.setMaker(names::frmStartUp, [this] { return std::make_shared<frmStartUp>(forms); });
-    forms.setMaker(names::frmSelectPlayer,
-                   [this] { return std::make_shared<frmSelectPlayer>(forms, declarations); });
-    forms.setMaker(names::frmPlayer1, [this] {
-      return std::make_shared<frmPlayer1>(forms, dialogs, random, declarations);
-    });
-    forms.setMaker(names::frmPlayer2,
-                   [this] { return std::make_shared<frmPlayer2>(forms, dialogs, declarations); });
-    makePlain(kSheet);
-    forms.show(kSheet);
-    forms.show(names::frmStartUp);
-  }
-
-  ~SoccerTest() override {
-    for (const FormName name : {names::frmStartUp, names::frmSelectPlayer, names::frmPlayer1,
-                                names::frmPlayer2, kSheet}) {
-      forms.drop(name);
-    }
-    settle();
+    forms.show(names::Úvod);
+    forms.show(kTitle);
   }
 
   void startTwo() {
-    click(control<QPushButton>(names::frmStartUp, "cmd2Player"));
+    click(control<QPushButton>(kTitle, "cmd2Player"));
     settle();
-    activate(*window(names::frmPlayer2));
+    activate(*window(kTwo));
   }
 
   // Opens the choice; `choose` happens while it stands there.
   void startOne(const std::function<void()>& choose) {
     QTimer::singleShot(0, qApp, choose);
-    click(control<QPushButton>(names::frmStartUp, "cmd1Player"));
+    click(control<QPushButton>(kTitle, "cmd1Player"));
     settle();
   }
   void startOne(int opponent, Qt::MouseButton button = Qt::LeftButton) {
     startOne([=, this] { QTest::mouseClick(picture(opponent), button, {}, {40, 40}); });
-    activate(*window(names::frmPlayer1));
+    activate(*window(kOne));
   }
   static QWidget* picture(int opponent) {
-    return control<QWidget>(names::frmSelectPlayer, QString("picOpponent(%1)").arg(opponent));
+    return control<QWidget>(kChoice, QString("picOpponent(%1)").arg(opponent));
   }
 
   static std::string textOf(FormName form, const char* label) {
     return control<QLabel>(form, label)->text().toStdString();
   }
-  static QPoint placeOf(FormName form, const char* piece) {
+  static std::string clock() { return textOf(kTwo, "lblTime"); }
+  static std::string pauseItem() {
+    return control<QAction>(kTwo, "mnuPause")->text().toStdString();
+  }
+  static QPoint placeOf(const char* piece, FormName form = kTwo) {
     return control<QWidget>(form, piece)->pos();
+  }
+  bool ballRuns() {
+    const QPoint before = placeOf("Ball");
+    advance(40);
+    return placeOf("Ball") != before;
   }
   static void choose(FormName form, const char* item) {
     control<QAction>(form, item)->trigger();
     settle();
   }
 
-  // The two players leave the ball alone for the time that is left.
-  void waitForTheEnd(int seconds) {
+  // The players leave the ball alone.
+  void wait(int seconds) {
     for (int second = 0; second < seconds; ++second) advance(1000);
   }
-
-  FakeRandom random;
-  Declarations declarations;
 };
-
-constexpr QPoint kRedAtStart{24, 264};
-constexpr QPoint kBlueAtStart{728, 264};
 
 TEST_F(SoccerTest, EightKeysMoveTwoPlayersAtOnce) {
   startTwo();
+  const auto expectMoved = [&](int steps) {
+    EXPECT_EQ(placeOf("Red"), kRedAtStart + QPoint(steps * 16, -steps * 16));
+    EXPECT_EQ(placeOf("Blue"), kBlueAtStart + QPoint(-steps * 16, -steps * 16));
+  };
   for (const int key : {Qt::Key_W, Qt::Key_D, Qt::Key_Up, Qt::Key_Left}) press(key);
   advance(30);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart + QPoint(48, -48));
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Blue"), kBlueAtStart + QPoint(-48, -48));
+  expectMoved(3);
   for (const int key : {Qt::Key_S, Qt::Key_A, Qt::Key_Down, Qt::Key_Right}) press(key);
   advance(100);  // opposite keys cancel out
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart + QPoint(48, -48));
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Blue"), kBlueAtStart + QPoint(-48, -48));
+  expectMoved(3);
   for (const int key : {Qt::Key_W, Qt::Key_D, Qt::Key_Up, Qt::Key_Left}) release(key);
   advance(30);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Blue"), kBlueAtStart);
+  expectMoved(0);
 }
 
 TEST_F(SoccerTest, NoKeyStaysHeldWhenTheKeyboardLeaves) {
@@ -108,9 +96,9 @@ TEST_F(SoccerTest, NoKeyStaysHeldWhenTheKeyboardLeaves) {
   QWidget box;
   box.show();
   activate(box);
-  activate(*window(names::frmPlayer2));
+  activate(*window(kTwo));
   advance(100);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
+  EXPECT_EQ(placeOf("Red"), kRedAtStart);
 }
 
 // A key of the keyboard at its place, as the window system tells of it.
@@ -127,7 +115,7 @@ TEST_F(SoccerTest, NoPressIsLostHoweverQuickTheChildIs) {
     advance(10);
     sendKey(QEvent::KeyRelease, Qt::Key_D, 40, false, 7);
   }
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart + QPoint(32, 0));
+  EXPECT_EQ(placeOf("Red"), kRedAtStart + QPoint(32, 0));
 }
 
 TEST_F(SoccerTest, AKeyIsLetGoThoughAltGrGivesItAnotherSign) {
@@ -135,14 +123,14 @@ TEST_F(SoccerTest, AKeyIsLetGoThoughAltGrGivesItAnotherSign) {
   sendKey(QEvent::KeyPress, Qt::Key_W, 25, false, 1);
   sendKey(QEvent::KeyRelease, Qt::Key_Bar, 25, false, 2);
   advance(100);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
+  EXPECT_EQ(placeOf("Red"), kRedAtStart);
 }
 
 TEST_F(SoccerTest, AnEscThatIsHeldForTheMatchDoesNotEndTheProgramOnTheTitle) {
   startTwo();
   sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 1);
-  activate(*window(names::frmStartUp));
-  control<QPushButton>(names::frmStartUp, "cmd2Player")->setFocus();
+  activate(*window(kTitle));
+  control<QPushButton>(kTitle, "cmd2Player")->setFocus();
   sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, true, 2);
   sendKey(QEvent::KeyRelease, Qt::Key_Escape, 9, false, 3);
   sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 3);  // a broken repeat
@@ -152,63 +140,51 @@ TEST_F(SoccerTest, AnEscThatIsHeldForTheMatchDoesNotEndTheProgramOnTheTitle) {
   EXPECT_TRUE(forms.isEnding());
 }
 
-TEST_F(SoccerTest, AKeyPressedInAPauseWorksAfterIt) {
+TEST_F(SoccerTest, APauseFreezesAllAndANewMatchInItRunsThoughTheMenuGoesOnSayingPause) {
   startTwo();
-  choose(names::frmPlayer2, "mnuPause");
-  EXPECT_EQ(control<QAction>(names::frmPlayer2, "mnuPause")->text(), "&Pokračovať");
+  choose(kTwo, "mnuPause");
+  EXPECT_EQ(pauseItem(), "&Pokračovať");
   press(Qt::Key_D);
   advance(2000);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
-  EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 90");
+  EXPECT_EQ(placeOf("Red"), kRedAtStart);
+  EXPECT_EQ(clock(), "Časomiera: 90");
   strike(Qt::Key_F2);
-  EXPECT_EQ(control<QAction>(names::frmPlayer2, "mnuPause")->text(), "&Pauza");
+  EXPECT_EQ(pauseItem(), "&Pauza");
   advance(10);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart + QPoint(16, 0));
-}
-
-TEST_F(SoccerTest, ANewMatchInAPauseRunsAndTheMenuGoesOnSayingSo) {
-  startTwo();
+  EXPECT_EQ(placeOf("Red"), kRedAtStart + QPoint(16, 0));  // of the key that went down meanwhile
   strike(Qt::Key_F2);
   strike(Qt::Key_F1);
-  const QPoint before = placeOf(names::frmPlayer2, "Ball");
-  advance(40);
-  EXPECT_NE(placeOf(names::frmPlayer2, "Ball"), before);
-  EXPECT_EQ(control<QAction>(names::frmPlayer2, "mnuPause")->text(), "&Pokračovať");
+  EXPECT_TRUE(ballRuns());
+  EXPECT_EQ(pauseItem(), "&Pokračovať");
   strike(Qt::Key_F2);
-  EXPECT_EQ(control<QAction>(names::frmPlayer2, "mnuPause")->text(), "&Pauza");
-  const QPoint running = placeOf(names::frmPlayer2, "Ball");
-  advance(40);
-  EXPECT_NE(placeOf(names::frmPlayer2, "Ball"), running);
+  EXPECT_TRUE(ballRuns());
+  EXPECT_EQ(pauseItem(), "&Pauza");
 }
 
 TEST_F(SoccerTest, AMatchLastsNinetySecondsTheFirstOfWhichIsLong) {
   startTwo();
   EXPECT_EQ(ticks.runningFine(), 2);  // the ball's and the seconds
   advance(1990);
-  EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 90");
+  EXPECT_EQ(clock(), "Časomiera: 90");
   advance(10);
-  EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 89");
-  waitForTheEnd(88);
-  EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 1");
+  EXPECT_EQ(clock(), "Časomiera: 89");
+  wait(88);
   dialogs.expect("Duelbal", [this] {
-    EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 0");
-    const QPoint before = placeOf(names::frmPlayer2, "Ball");
-    advance(200);
-    EXPECT_EQ(placeOf(names::frmPlayer2, "Ball"), before);
+    EXPECT_EQ(clock(), "Časomiera: 0");
+    EXPECT_FALSE(ballRuns());
   });
-  waitForTheEnd(1);
+  wait(1);
   ASSERT_EQ(dialogs.shown.size(), 1U);
   EXPECT_EQ(dialogs.shown.front().text, "Remíza! 0 - 0");
-  EXPECT_EQ(dialogs.shown.front().icon, MessageBox::Icon::exclamation);
 
   // Hidden and frozen behind the title, until it comes back to a match of its own.
-  EXPECT_EQ(window(names::frmPlayer2), nullptr);
-  EXPECT_TRUE(forms.isLoaded(names::frmPlayer2));
-  waitForTheEnd(100);
+  EXPECT_EQ(window(kTwo), nullptr);
+  EXPECT_TRUE(forms.isLoaded(kTwo));
+  wait(100);
   EXPECT_EQ(declarations.TimeLeft, 90);
   startTwo();
   advance(2000);
-  EXPECT_EQ(textOf(names::frmPlayer2, "lblTime"), "Časomiera: 89");
+  EXPECT_EQ(clock(), "Časomiera: 89");
 }
 
 TEST_F(SoccerTest, ComingBackFromAnotherFormStartsAnewButNotFromABox) {
@@ -217,10 +193,10 @@ TEST_F(SoccerTest, ComingBackFromAnotherFormStartsAnewButNotFromABox) {
   QWidget box;
   box.show();
   activate(box);
-  activate(*window(names::frmPlayer2));
+  activate(*window(kTwo));
   EXPECT_EQ(declarations.TimeLeft, 86);
-  activate(*window(names::frmStartUp));
-  activate(*window(names::frmPlayer2));
+  activate(*window(kTitle));
+  activate(*window(kTwo));
   EXPECT_EQ(declarations.TimeLeft, 90);
 }
 
@@ -232,95 +208,80 @@ TEST_F(SoccerTest, AGoalIsCountedAndEveryPieceGoesHome) {
   press(Qt::Key_D);  // Red comes to the ball as it passes his row, and sends it level to the right
   advance(215);
   release(Qt::Key_D);
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), QPoint(360, 264));
+  EXPECT_EQ(placeOf("Red"), QPoint(360, 264));
   advance(1000);
-  EXPECT_EQ(textOf(names::frmPlayer2, "RedGoals"), "1");
-  EXPECT_EQ(textOf(names::frmPlayer2, "BlueGoals"), "0");
-  EXPECT_EQ(placeOf(names::frmPlayer2, "Red"), kRedAtStart);
-  choose(names::frmPlayer2, "mnuNewGame");
-  EXPECT_EQ(textOf(names::frmPlayer2, "RedGoals"), "0");
+  EXPECT_EQ(textOf(kTwo, "RedGoals") + textOf(kTwo, "BlueGoals"), "10");
+  EXPECT_EQ(placeOf("Red"), kRedAtStart);
+  choose(kTwo, "mnuNewGame");
+  EXPECT_EQ(textOf(kTwo, "RedGoals"), "0");
 }
 
-TEST_F(SoccerTest, EscGoesBackToTheTitleAndMakesItWhereItIsGone) {
+TEST_F(SoccerTest, EscGoesBackToTheTitleWhereItEndsEverythingOnOneButtonOnly) {
   startTwo();
-  click(control<QWidget>(names::frmStartUp, "imgEnd"));
+  click(control<QWidget>(kTitle, "imgEnd"));
   settle();
-  EXPECT_FALSE(forms.isLoaded(names::frmStartUp));
-  activate(*window(names::frmPlayer2));
+  EXPECT_FALSE(forms.isLoaded(kTitle));
+  activate(*window(kTwo));
   strike(Qt::Key_Escape);
   settle();
-  EXPECT_NE(window(names::frmStartUp), nullptr);
-  EXPECT_EQ(window(names::frmPlayer2), nullptr);
-}
-
-TEST_F(SoccerTest, EscOnTheButtonOfTwoPlayersEndsEverything) {
-  activate(*window(names::frmStartUp));
-  strike(Qt::Key_Escape);  // the other button comes first
+  EXPECT_EQ(window(kTwo), nullptr);
+  activate(*window(kTitle));  // made anew
+  strike(Qt::Key_Escape);     // the other button comes first
   EXPECT_FALSE(forms.isEnding());
-  control<QPushButton>(names::frmStartUp, "cmd2Player")->setFocus();
+  control<QPushButton>(kTitle, "cmd2Player")->setFocus();
   strike(Qt::Key_Escape);
   EXPECT_TRUE(forms.isEnding());
 }
 
 TEST_F(SoccerTest, TheChosenOpponentPlaysAndIsNamed) {
   startOne(3, Qt::RightButton);
-  EXPECT_EQ(window(names::frmStartUp), nullptr);
-  EXPECT_FALSE(forms.isLoaded(names::frmSelectPlayer));
-  EXPECT_EQ(declarations.OpponentIndex, 3);
-  EXPECT_EQ(textOf(names::frmPlayer1, "lblOpponent"), "Súper : Hostin");
+  EXPECT_EQ(window(kTitle), nullptr);
+  EXPECT_FALSE(forms.isLoaded(kChoice));
+  EXPECT_EQ(textOf(kOne, "lblOpponent"), "Súper : Hostin");
   dialogs.expect("Mini futbal");
-  waitForTheEnd(91);
-  EXPECT_EQ(dialogs.shown.front().icon, MessageBox::Icon::exclamation);
-  EXPECT_NE(window(names::frmStartUp), nullptr);
+  wait(91);
+  EXPECT_NE(window(kTitle), nullptr);
 
-  // The hidden window takes the next opponent.
-  startOne(5);
-  EXPECT_EQ(textOf(names::frmPlayer1, "lblOpponent"), "Súper : Belko");
-  choose(names::frmPlayer1, "mnuNewGame");
-  EXPECT_EQ(declarations.OpponentIndex, 5);
+  startOne(5);  // the hidden window takes the next one
+  EXPECT_EQ(textOf(kOne, "lblOpponent"), "Súper : Belko");
+  random.numbers = {0.9};  // a plan that chases the ball from the start
+  random.reseeded = 0;
+  choose(kOne, "mnuNewGame");
+  press(Qt::Key_Left);
+  advance(30);
+  release(Qt::Key_Left);
+  EXPECT_EQ(placeOf("Blue", kOne), kBlueAtStart - QPoint(48, 0));
+  EXPECT_GT(placeOf("Red", kOne).x(), kRedAtStart.x());
+  EXPECT_EQ(random.reseeded, 31);  // this level reseeds at every decision
 }
 
 TEST_F(SoccerTest, TheChoiceLiftsThePictureUnderThePointerAndEscGoesBack) {
   startOne([this] {
-    QTest::mouseMove(picture(2), {30, 30});
-    settle();
-    EXPECT_EQ(picture(2)->height(), 101);
-    QTest::mouseMove(picture(4), {30, 30});
-    settle();
-    EXPECT_EQ(picture(2)->height(), 101);
-    EXPECT_EQ(picture(4)->height(), 101);
-    EXPECT_EQ(picture(1)->height(), 96);
-    activate(*window(names::frmSelectPlayer));
+    for (const int opponent : {2, 4}) {
+      QTest::mouseMove(picture(opponent), {30, 30});
+      settle();
+    }
+    for (const int opponent : {1, 2, 3, 4, 5}) {
+      EXPECT_EQ(picture(opponent)->height(), opponent % 2 == 0 ? 101 : 96);
+    }
+    activate(*window(kChoice));
     strike(Qt::Key_Escape);
   });
-  EXPECT_FALSE(forms.isLoaded(names::frmSelectPlayer));
-  EXPECT_NE(window(names::frmStartUp), nullptr);
-  EXPECT_EQ(declarations.OpponentIndex, 0);
-}
-
-TEST_F(SoccerTest, TheComputerMovesRedAndTheChildBlue) {
-  startOne(5);
-  random.numbers = {0.9};  // a plan that chases the ball from the start
-  random.reseeded = 0;
-  choose(names::frmPlayer1, "mnuNewGame");
-  press(Qt::Key_Left);
-  advance(30);
-  release(Qt::Key_Left);
-  EXPECT_EQ(placeOf(names::frmPlayer1, "Blue"), kBlueAtStart - QPoint(48, 0));
-  EXPECT_GT(placeOf(names::frmPlayer1, "Red").x(), kRedAtStart.x());
-  EXPECT_EQ(random.reseeded, 31);  // this level reseeds at every decision
+  EXPECT_FALSE(forms.isLoaded(kChoice));
+  EXPECT_NE(window(kTitle), nullptr);
+  EXPECT_EQ(declarations.OpponentIndex, 1);  // as it was
 }
 
 TEST_F(SoccerTest, CtrlShowsTheDirectionWhileItIsHeld) {
   startOne(4);
-  const auto* const direction = control<QLabel>(names::frmPlayer1, "lblDirection");
+  const auto* const direction = control<QLabel>(kOne, "lblDirection");
   EXPECT_FALSE(direction->isVisible());
   press(Qt::Key_Control);
   EXPECT_TRUE(direction->isVisible());
   EXPECT_EQ(direction->text(), "4");
   advance(300);
   const auto piece = [](const char* name, int size) {
-    const QPoint at = placeOf(names::frmPlayer1, name);
+    const QPoint at = placeOf(name, kOne);
     return Piece{twips(at.x()), twips(at.y()), size, size};
   };
   const int seen = GetDirection(piece("Red", 495), piece("Ball", 480));
@@ -332,31 +293,31 @@ TEST_F(SoccerTest, CtrlShowsTheDirectionWhileItIsHeld) {
 
 TEST_F(SoccerTest, AMatchMayEndInAnyMoment) {
   startTwo();
-  dialogs.expect("Duelbal", [this] { forms.drop(names::frmPlayer2); });
-  waitForTheEnd(91);
-  EXPECT_FALSE(forms.isLoaded(names::frmPlayer2));
-  EXPECT_NE(window(names::frmStartUp), nullptr);
+  dialogs.expect("Duelbal", [this] { forms.drop(kTwo); });
+  wait(91);
+  EXPECT_FALSE(forms.isLoaded(kTwo));
+  EXPECT_NE(window(kTitle), nullptr);
 
   startTwo();
   advance(500);
-  window(names::frmPlayer2)->close();
+  window(kTwo)->close();
   advance(500);
-  EXPECT_FALSE(forms.isLoaded(names::frmPlayer2));
+  EXPECT_FALSE(forms.isLoaded(kTwo));
 
   // A match of two that ends beneath the choice of an opponent.
   startTwo();
-  activate(*window(names::frmStartUp));
+  activate(*window(kTitle));
   startOne([this] {
-    EXPECT_FALSE(window(names::frmSelectPlayer)->windowFlags() & Qt::WindowMinimizeButtonHint);
+    EXPECT_FALSE(window(kChoice)->windowFlags() & Qt::WindowMinimizeButtonHint);
     dialogs.expect("Duelbal");
-    waitForTheEnd(91);
-    activate(*window(names::frmSelectPlayer));
+    wait(91);
+    activate(*window(kChoice));
     strike(Qt::Key_Escape);
   });
 
   startOne(2);
   dialogs.expect("Mini futbal", [this] { forms.endProgram(); });
-  waitForTheEnd(91);
+  wait(91);
   EXPECT_TRUE(forms.isEnding());
 }
 
