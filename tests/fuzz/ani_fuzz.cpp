@@ -10,13 +10,14 @@
 #include <QtEndian>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 
+#include "fuzz/law.h"
 #include "platform/animated_cursor.h"
 
 namespace {
 
 using ratanka::AnimatedCursor;
+using ratanka::hold;
 
 QByteArray u32(qsizetype value) {
   QByteArray bytes(4, '\0');
@@ -36,7 +37,7 @@ QByteArray fileWith(const QByteArray& frame) {
 
 void tryFile(const QByteArray& file) {
   const AnimatedCursor film = AnimatedCursor::fromBytes(file);
-  if (film.steps() > AnimatedCursor::kMaxSteps) std::abort();
+  hold(film.steps() <= AnimatedCursor::kMaxSteps);
   if (film.isNull()) return;
 
   QImage screen(AnimatedCursor::kSize, AnimatedCursor::kSize, QImage::Format_ARGB32_Premultiplied);
@@ -45,7 +46,7 @@ void tryFile(const QByteArray& file) {
   for (int step = 0; step < film.steps(); ++step) {
     for (const qreal ratio : {1.0, 2.0}) {
       const QImage picture = film.frame(step, ratio);
-      if (picture.isNull() || picture.width() > 64 || picture.height() > 64) std::abort();
+      hold(!picture.isNull() && picture.width() <= 64 && picture.height() <= 64);
     }
     film.draw(painter, step);
   }

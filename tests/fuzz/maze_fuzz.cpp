@@ -4,21 +4,18 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <variant>
 
+#include "fuzz/law.h"
 #include "maze/rules/maze_file.h"
 #include "maze/rules/walk.h"
 
 namespace {
 
 using namespace ratanka::maze;
-
-void hold(bool law) {
-  if (!law) std::abort();
-}
+using ratanka::hold;
 
 void walkThrough(const Maze& maze, std::string_view steps) {
   Walk walk(maze);

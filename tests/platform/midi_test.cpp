@@ -1,6 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <memory>
+#include <tuple>
 
 #include "platform/data_files.h"
 #include "platform/lazy_midi_out.h"
@@ -130,6 +132,39 @@ TEST_F(MidiTest, WhatDoesNotExistCannotBeOpened) {
   noteOn(60);
   hear(0.5);
   EXPECT_GT(recording().loudest(), -40);
+}
+
+TEST_F(MidiTest, ADamagedSoundFontIsNone) {
+  QFile file(installedSoundModule().soundFont);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray whole = file.readAll();
+  const auto canBeOpened = [&](const QByteArray& font) {
+    QFile damaged(folder_.filePath("damaged.sf2"));
+    EXPECT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write(font) == font.size());
+    damaged.close();
+    LazyMidiOut dumb({installedSoundModule().file, damaged.fileName()});
+    return dumb.midiOutOpen(MidiOut::kMidiMapper) == 0;
+  };
+  output->midiOutClose();
+  EXPECT_TRUE(canBeOpened(whole));
+  testing::internal::CaptureStderr();  // a library that a font gets to has a lot to say about it
+  for (const qsizetype size : {qsizetype{0}, qsizetype{11}, qsizetype{100}, whole.size() / 2,
+                               whole.size() - 50, whole.size() - 1}) {
+    EXPECT_FALSE(canBeOpened(whole.left(size))) << size;
+  }
+  EXPECT_FALSE(canBeOpened(whole + "and more"));
+  // Seen from a part's name: its size; where what a zone, an instrument (the first, the last), a
+  // modulator and a sample name is.
+  const std::tuple<const char*, qsizetype, const char*> places[] = {
+      {"phdr", 4, "\x7f\x7f\x7f\x7f"}, {"pbag", 8, "\x7f\x7f"},  {"inst", 28, "\xff\x01"},
+      {"ibag", -2, "\x7f\x7f"},        {"imod", 10, "\x7f\x7f"}, {"shdr", 32, "\x7f\x7f\x7f\x7f"}};
+  for (const auto& [part, place, bytes] : places) {
+    QByteArray font = whole;
+    const qsizetype start = whole.indexOf(part, whole.indexOf("pdta"));
+    font.replace(start + place, static_cast<qsizetype>(std::strlen(bytes)), bytes);
+    EXPECT_FALSE(canBeOpened(font)) << part << ' ' << place;
+  }
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST_F(MidiTest, LeavesNothingOpenAlsoWhenAKeyIsHeld) {

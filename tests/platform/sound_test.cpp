@@ -2,8 +2,10 @@
 
 #include <QElapsedTimer>
 #include <algorithm>
+#include <chrono>
 #include <memory>
 #include <string>
+#include <thread>
 
 #include "note_text.h"
 #include "platform/data_files.h"
@@ -161,12 +163,17 @@ TEST_F(SoundTest, MusicBeginsAnewAndEndsWhenItIsClosed) {
 TEST_F(SoundTest, WhatCannotBePlayedIsSilentAndHarmless) {
   const QByteArray wave = content("Tetris7.wav");
   const QByteArray music = content("Tetris.mid");
+  QByteArray slow = wave;  // at 1 Hz, it would take hours and gigabytes
+  slow.replace(24, 4, QByteArray("\1\0\0\0", 4));
+  QByteArray many = wave;  // for as many sides
+  many[22] = '\7';
   const QByteArray garbage = QByteArray("\x00\xff\x7f\x80RIFF", 8).repeated(200);
   sound = loadSound(installedSoundModule());
   for (const std::string& bad :
        {std::string("/nowhere/at/all"), std::string(), folder_.path().toStdString(),
         file("empty", {}), file("garbage", garbage), file("header.wav", wave.left(44)),
-        file("head.wav", wave.left(20)), file("head.mid", music.left(30))}) {
+        file("head.wav", wave.left(20)), file("cut.wav", wave.left(30000)), file("slow.wav", slow),
+        file("many.wav", many), file("head.mid", music.left(30))}) {
     sound->PlayWave(bad);
     sound->playMusic();
     sound->openMusic(bad);
@@ -182,6 +189,7 @@ TEST_F(SoundTest, WhatCannotBePlayedIsSilentAndHarmless) {
   sound->playMusic();
   hear(1);
   sound->closeMusic();
+  std::this_thread::sleep_for(std::chrono::seconds(1));  // or a busy worker drops the wave
   sound->PlayWave(dataFile("Tetris7.wav").toStdString());
   hear(2);
   const Recording played = recording();

@@ -2,6 +2,10 @@
 
 #include <SDL.h>
 
+#include <bit>
+
+#include "platform/sound/sound_files.h"
+#include "platform/sound/sound_font.h"
 #include "platform/sound/sound_system.h"
 
 namespace ratanka {
@@ -15,6 +19,25 @@ constexpr std::chrono::seconds kPatience{10};
 // Of 128. The music lies beneath the waves, which are to be heard and to be told apart.
 constexpr int kMusicVolume = 25;
 
+// A device that went with its sound server has stopped, though nobody closed it.
+bool isRunning(SDL_AudioDeviceID device) {
+  return SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED;
+}
+
+// A bit for each number.
+unsigned runningDevices() {
+  constexpr SDL_AudioDeviceID kEnd = 18;  // the library has sixteen at most, from 2 on
+  unsigned devices = 0;
+  for (SDL_AudioDeviceID device = 2; device < kEnd; ++device) {
+    if (isRunning(device)) devices |= 1U << device;
+  }
+  return devices;
+}
+
+SDL_RWops* reader(const std::string& bytes) {
+  return SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
+}
+
 }  // namespace
 
 Mixer::~Mixer() {
@@ -24,14 +47,20 @@ Mixer::~Mixer() {
 
 bool Mixer::open() {
   const auto now = std::chrono::steady_clock::now();
+  if (isOpen_ && !isRunning(device_)) {
+    closeMusic();
+    close();
+  }
   if (isOpen_ || now < nextTry_) return isOpen_;
   const SoundSystem system;
+  const unsigned others = runningDevices();
   isOpen_ =
       system.isReady() && Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kFrames, nullptr, 0) == 0;
   if (!isOpen_) {
     nextTry_ = now + kPatience;
     return false;
   }
+  device_ = static_cast<SDL_AudioDeviceID>(std::countr_zero(runningDevices() & ~others));
   Mix_AllocateChannels(kChannels);
   Mix_VolumeMusic(kMusicVolume);
   Mix_SetSoundFonts(soundFont_.c_str());
@@ -47,7 +76,10 @@ void Mixer::close() {
 
 Mix_Chunk* Mixer::wave(const std::string& file) {
   const auto [place, isNew] = waves_.try_emplace(file);
-  if (isNew) place->second.reset(Mix_LoadWAV(file.c_str()));
+  if (isNew) {
+    const std::string bytes = plainWave(readSoundFile(file));
+    if (!bytes.empty()) place->second.reset(Mix_LoadWAV_RW(reader(bytes), 1));
+  }
   return place->second.get();
 }
 
@@ -62,9 +94,11 @@ void Mixer::playWave(const std::string& file) {
 
 void Mixer::openMusic(const std::string& file) {
   closeMusic();
-  if (soundFont_.empty() || !open()) return;
+  if (!isSoundFont(soundFont_) || !open()) return;
   const SoundSystem system;
-  music_.reset(Mix_LoadMUS(file.c_str()));
+  const std::string bytes = readSoundFile(file);
+  // The sound font isn't loaded for anything else.
+  if (bytes.starts_with("MThd")) music_.reset(Mix_LoadMUSType_RW(reader(bytes), MUS_MID, 1));
   musicFile_ = file;
   isFresh_ = true;
 }

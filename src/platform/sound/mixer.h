@@ -1,5 +1,6 @@
 #pragma once
 
+#include <SDL.h>
 #include <SDL_mixer.h>
 
 #include <chrono>
@@ -20,7 +21,8 @@ class Mixer {
   Mixer(const Mixer&) = delete;
   Mixer& operator=(const Mixer&) = delete;
 
-  // Files by full paths; what isn't there or isn't what it should be is silent.
+  // Files by full paths; what isn't there or isn't what it should be is silent. Where the device
+  // has gone with its sound server, the next wave or opening looks for a new one.
   void playWave(const std::string& file);
   void openMusic(const std::string& file);
   void playMusic();
@@ -38,6 +40,7 @@ class Mixer {
 
   std::string soundFont_;
   bool isOpen_ = false;
+  SDL_AudioDeviceID device_ = 0;
   std::chrono::steady_clock::time_point nextTry_{};  // to open a device after it failed
   std::map<std::string, std::unique_ptr<Mix_Chunk, Free>> waves_;  // null where it can't be read
   std::unique_ptr<Mix_Music, Free> music_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/sound/sound_font.h"
 #include "platform/sound/sound_system.h"
 
 namespace ratanka {
@@ -28,7 +29,7 @@ Synthesiser::Synthesiser() : settings_(new_fluid_settings()) {
 
 std::unique_ptr<Synthesiser> Synthesiser::open(const std::string& soundFont) {
   const SoundSystem system;
-  if (!system.isReady() || soundFont.empty()) return nullptr;
+  if (!system.isReady() || !isSoundFont(soundFont)) return nullptr;
   std::unique_ptr<Synthesiser> synthesiser(new Synthesiser);
   constexpr int kResetPresets = 1;
   const bool isOpen = fluid_synth_sfload(synthesiser->synth_.get(), soundFont.c_str(),
@@ -55,7 +56,9 @@ bool Synthesiser::openDevice() {
 }
 
 Synthesiser::~Synthesiser() {
-  if (device_ != 0) SDL_CloseAudioDevice(device_);
+  if (device_ == 0) return;
+  const SoundSystem system;
+  SDL_CloseAudioDevice(device_);
 }
 
 // Once the last note and its echo have died away, the synthesiser is left to sleep.
