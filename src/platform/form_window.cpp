@@ -12,6 +12,7 @@
 #include "platform/desktop.h"
 #include "platform/forms.h"
 #include "platform/keys.h"
+#include "platform/maximising.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
 
@@ -78,7 +79,9 @@ void FormWindow::setModal(bool modal) {
   setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
   if (!modal) return;
   create();
-  const QWidget* const beneath = QApplication::activeWindow();
+  // While a menu closes no window is active.
+  const QWidget* const active = QApplication::activeWindow();
+  const QWidget* const beneath = active != nullptr ? active : windowBefore();
   const bool hasBeneath = beneath != nullptr && beneath != this && beneath->isVisible();
   windowHandle()->setTransientParent(hasBeneath ? beneath->windowHandle() : nullptr);
 }
@@ -137,7 +140,10 @@ void FormWindow::closeEvent(QCloseEvent* event) {
   form_->unload();
 }
 
-void FormWindow::showEvent(QShowEvent*) { windowHandle()->installEventFilter(this); }
+void FormWindow::showEvent(QShowEvent*) {
+  windowHandle()->installEventFilter(this);
+  growWhenMaximised(*this);
+}
 
 void FormWindow::hideEvent(QHideEvent* event) {
   if (waiting_ != nullptr && !event->spontaneous()) waiting_->quit();
@@ -147,6 +153,7 @@ void FormWindow::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() != QEvent::WindowStateChange) return;
   const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
+  // Not on Wayland: a program isn't told there that its window was put away.
   if (before.testFlag(Qt::WindowMinimized) != isMinimized()) tell(&Form::Form_Resize);
 }
 
@@ -159,7 +166,26 @@ bool FormWindow::event(QEvent* event) {
   if (isHeard && event->type() == QEvent::WindowActivate && form_ != nullptr) {
     form_->forms_.formBecameActive(*form_);
   }
+  if (event->type() == QEvent::WindowActivate && !design_.takesKeyboard) {
+    QMetaObject::invokeMethod(
+        this, [this] { giveKeyboardBack(); }, Qt::QueuedConnection);
+  }
   return QWidget::event(event);
+}
+
+// Wayland gives the keyboard to every window that is clicked. One that wants none hands it on to
+// the form that had it before: the toolkit takes that one for the active window, and this one
+// passes every key.
+void FormWindow::giveKeyboardBack() {
+  FormWindow* const before = windowBefore();
+  if (before != nullptr && isActiveWindow() && QApplication::activeModalWidget() == nullptr) {
+    QApplication::setActiveWindow(before);
+  }
+}
+
+FormWindow* FormWindow::windowBefore() const {
+  const Form* const before = form_ == nullptr ? nullptr : form_->forms_.active_;
+  return before == nullptr ? nullptr : before->window_;
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -174,6 +200,10 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool isInBar =
       menuBar_ != nullptr && menuBar_->hasFocus() && menuBar_->activeAction() != nullptr;
   if (isPress && isInBar) return false;
+  if (!design_.takesKeyboard) {
+    const FormWindow* const before = windowBefore();
+    return before != nullptr && QCoreApplication::sendEvent(before->windowHandle(), event);
+  }
   const Form::HandlerScope scope(*form_);
   if (isPress) {
     keyWentDown(*static_cast<QKeyEvent*>(event));

@@ -51,6 +51,8 @@ class FormWindow : public QWidget {
  private:
   void paintBackground(QPainter& painter);
   void tell(void (Form::*happening)());
+  void giveKeyboardBack();
+  FormWindow* windowBefore() const;
   void keyWentDown(const QKeyEvent& event);
   void keyCameUp(const QKeyEvent& event);
 

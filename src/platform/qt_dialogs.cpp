@@ -9,6 +9,7 @@
 #include <QTranslator>
 
 #include "platform/forms.h"
+#include "platform/maximising.h"
 #include "platform/text.h"
 
 namespace ratanka {
@@ -79,6 +80,7 @@ Dialogs::Answer QtDialogs::message(const MessageBox& box) {
   makeRoomForTabs(*window);
   window->setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   window->setWindowModality(Qt::ApplicationModal);
+  growWhenMaximised(*window);
 
   heldKeys_.boxOpened();
   const int pressed = window->exec();
@@ -99,6 +101,7 @@ std::optional<std::string> QtDialogs::input(const std::string& title, const std:
   window->setLabelText(unixLines(prompt));
   window->setTextValue(text(preset));
   window->setWindowModality(Qt::ApplicationModal);
+  growWhenMaximised(*window);
 
   heldKeys_.boxOpened();
   const bool accepted = window->exec() == QDialog::Accepted;

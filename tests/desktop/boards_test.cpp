@@ -2,12 +2,11 @@
 
 #include <chrono>
 #include <deque>
-#include <filesystem>
 #include <fstream>
 #include <map>
-#include <sstream>
 #include <thread>
 
+#include "desktop/home.h"
 #include "desktop/reward.h"
 #include "platform/twister_random.h"
 #include "sheets/rules/chains.h"
@@ -17,34 +16,9 @@
 namespace ratanka {
 namespace {
 
-namespace fs = std::filesystem;
-
 void pause(int milliseconds) {
   std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
-
-// A home of its own for the settings of a test.
-class Home {
- public:
-  Home() : folder_(fs::temp_directory_path() / ("ratanka-test-" + std::to_string(getpid()))) {
-    fs::remove_all(folder_);
-    fs::create_directories(folder_);
-  }
-  ~Home() { fs::remove_all(folder_); }
-  Home(const Home&) = delete;
-  Home& operator=(const Home&) = delete;
-
-  std::string variable() const { return "XDG_CONFIG_HOME=" + folder_.string(); }
-  std::string recording() const { return (folder_ / "recording").string(); }
-  std::string read(const std::string& file) const {
-    std::stringstream content;
-    content << std::ifstream(folder_ / "ratanka" / file).rdbuf();
-    return content.str();
-  }
-
- private:
-  fs::path folder_;
-};
 
 constexpr auto kBlocks = "Rátanka - hra TETRIS";
 constexpr auto kAfterPause = "Rátanka - hra Tetris";

@@ -1,17 +1,18 @@
 #include "desktop/desktop.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <functional>
-#include <memory>
+#include <regex>
 #include <thread>
+
+#include "desktop/processes.h"
 
 // After everything else: its macros leave no name alone.
 #include <X11/Xlib.h>
@@ -21,60 +22,24 @@
 namespace ratanka {
 namespace {
 
-using std::chrono::milliseconds;
-
-bool waitFor(const std::function<bool()>& holds) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-  while (!holds()) {
-    if (std::chrono::steady_clock::now() > end) return false;
-    std::this_thread::sleep_for(milliseconds(20));
-  }
-  return true;
-}
-
-pid_t spawn(const std::vector<std::string>& command, const std::vector<std::string>& variables,
-            bool isSilent) {
-  const pid_t child = fork();
-  if (child != 0) return child;
-  for (const std::string& variable : variables) {
-    const std::size_t equals = variable.find('=');
-    setenv(variable.substr(0, equals).c_str(), variable.substr(equals + 1).c_str(), 1);
-  }
-  if (isSilent) {
-    const int nothing = open("/dev/null", O_WRONLY);
-    dup2(nothing, STDOUT_FILENO);
-    dup2(nothing, STDERR_FILENO);
-  }
-  std::vector<char*> arguments;
-  for (const std::string& word : command) arguments.push_back(const_cast<char*>(word.c_str()));
-  arguments.push_back(nullptr);
-  execvp(arguments[0], arguments.data());
-  _exit(127);
-}
-
-void end(pid_t process) {
-  if (process <= 0) return;
-  kill(process, SIGTERM);
-  if (!waitFor([process] { return waitpid(process, nullptr, WNOHANG) != 0; })) {
-    kill(process, SIGKILL);
-    waitpid(process, nullptr, 0);
-  }
-}
-
 // Starts a server on a free display and reads its number.
 pid_t startServer(PixelSize size, std::string& displayName) {
   int ends[2];
   if (pipe(ends) != 0) return 0;
   const std::string screen = std::to_string(size.width) + 'x' + std::to_string(size.height) + "x24";
-  const pid_t server = spawn({"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen", "0", screen,
-                              "-nolisten", "tcp", "-noreset"},
-                             {}, true);
+  const pid_t server = start({.words = {"Xvfb", "-displayfd", std::to_string(ends[1]), "-screen",
+                                        "0", screen, "-nolisten", "tcp", "-noreset"},
+                              .says = "/dev/null"});
   close(ends[1]);
   char sign = 0;
   displayName = ":";
   while (read(ends[0], &sign, 1) == 1 && sign != '\n') displayName += sign;
   close(ends[0]);
   return server;
+}
+
+bool matches(const std::string& title, const std::string& expression) {
+  return std::regex_match(title, std::regex(expression, std::regex::extended));
 }
 
 Rgb colourIn(XImage& image, int x, int y) {
@@ -85,14 +50,19 @@ Rgb colourIn(XImage& image, int x, int y) {
 
 }  // namespace
 
-PrivateDesktop::PrivateDesktop(PixelSize size) {
+PrivateDesktop::PrivateDesktop(PixelSize size, WindowSystem system) {
   server_ = startServer(size, displayName_);
   display_ = XOpenDisplay(displayName_.c_str());
   if (display_ == nullptr) {
     ADD_FAILURE() << "no display";
     return;
   }
-  windowManager_ = spawn({"openbox"}, {"DISPLAY=" + displayName_}, true);
+  if (system == WindowSystem::wayland) {
+    weston_ = std::make_unique<Weston>(displayName_, size, kCloth);
+    return;
+  }
+  windowManager_ =
+      start({.words = {"openbox"}, .variables = {"DISPLAY=" + displayName_}, .says = "/dev/null"});
   const Atom check = XInternAtom(display_, "_NET_SUPPORTING_WM_CHECK", False);
   EXPECT_TRUE(waitFor([&] {
     int count = 0;
@@ -107,15 +77,18 @@ PrivateDesktop::PrivateDesktop(PixelSize size) {
 PrivateDesktop::~PrivateDesktop() {
   end(program_);
   end(windowManager_);
+  weston_.reset();
   if (display_ != nullptr) XCloseDisplay(display_);
   end(server_);
 }
 
-void PrivateDesktop::startProgram(const std::vector<std::string>& variables) {
-  std::vector<std::string> all = variables;
-  all.push_back("DISPLAY=" + displayName_);
-  all.emplace_back("QT_QPA_PLATFORM=xcb");
-  program_ = spawn({RATANKA_PROGRAM}, all, false);
+void PrivateDesktop::startProgram(const std::vector<std::string>& variables,
+                                  const std::string& says, std::vector<std::string> command) {
+  std::vector<std::string> all{"DISPLAY=" + displayName_, "QT_QPA_PLATFORM=xcb"};
+  if (weston_) all = weston_->variables();
+  all.insert(all.end(), variables.begin(), variables.end());
+  command.emplace_back(RATANKA_PROGRAM);
+  program_ = start({.words = command, .variables = all, .says = says});
 }
 
 int PrivateDesktop::waitForEnd() {
@@ -125,29 +98,61 @@ int PrivateDesktop::waitForEnd() {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
+void PrivateDesktop::send(int signal) const { kill(program_, signal); }
+
+void PrivateDesktop::pullThePlug() {
+  XCloseDisplay(display_);  // or this test would go with it
+  display_ = nullptr;
+  kill(server_, SIGKILL);
+  waitpid(server_, nullptr, 0);
+  server_ = 0;
+}
+
 int PrivateDesktop::xdotool(const std::string& arguments) const {
   const std::string command =
       "DISPLAY=" + displayName_ + " xdotool " + arguments + " >/dev/null 2>&1";
   return std::system(command.c_str());  // NOLINT(cert-env33-c): a test's own words
 }
 
-void PrivateDesktop::click(int x, int y) const {
-  xdotool("mousemove " + std::to_string(x) + ' ' + std::to_string(y) + " click 1");
+void PrivateDesktop::moveTo(int x, int y) const {
+  xdotool("mousemove " + std::to_string(x) + ' ' + std::to_string(y));
+  if (weston_) weston_->waitForPointerOf(program_);
 }
 
-bool PrivateDesktop::hasWindow(const std::string& title) const {
-  return xdotool("search --onlyvisible --name '^" + title + "$'") == 0;
+void PrivateDesktop::click(int x, int y) const {
+  moveTo(x, y);
+  // As long as a finger takes.
+  xdotool("mousedown 1 sleep 0.05 mouseup 1");
+}
+
+int PrivateDesktop::count(const std::string& title) const {
+  if (weston_) {
+    return static_cast<int>(std::ranges::count_if(
+        weston_->windows(), [&](const auto& window) { return matches(window.title, title); }));
+  }
+  const std::string found =
+      answerOf("DISPLAY=" + displayName_ + " xdotool search --onlyvisible --name '^" + title +
+               "$' 2>/dev/null");
+  return static_cast<int>(std::ranges::count(found, '\n'));
 }
 
 bool PrivateDesktop::waitForWindow(const std::string& title) const {
   return waitFor([&] { return hasWindow(title); });
 }
 
-bool PrivateDesktop::waitForActive(const std::string& title) const {
-  const std::string check = "DISPLAY=" + displayName_ +
-                            " xdotool getactivewindow getwindowname 2>/dev/null | grep -qx '" +
-                            title + "'";
-  return waitFor([&] { return std::system(check.c_str()) == 0; });  // NOLINT(cert-env33-c)
+std::string PrivateDesktop::active() const {
+  if (weston_) {
+    const std::vector<Weston::Window> windows = weston_->windows();
+    return windows.empty() ? std::string() : windows.front().title;
+  }
+  const std::string title =
+      answerOf("DISPLAY=" + displayName_ + " xdotool getactivewindow getwindowname 2>/dev/null");
+  return title.substr(0, title.find('\n'));
+}
+
+testing::AssertionResult PrivateDesktop::waitForActive(const std::string& title) const {
+  if (waitFor([&] { return matches(active(), title); })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "active: " << active();
 }
 
 bool PrivateDesktop::waitUntilGone(const std::string& title) const {
@@ -155,10 +160,19 @@ bool PrivateDesktop::waitUntilGone(const std::string& title) const {
 }
 
 Rgb PrivateDesktop::pixel(int x, int y) const {
-  XImage* const image =
-      XGetImage(display_, DefaultRootWindow(display_), x, y, 1, 1, AllPlanes, ZPixmap);
-  if (image == nullptr) return {};
-  const Rgb seen = colourIn(*image, 0, 0);
+  const std::vector<Rgb> seen = picture({x, y}, {1, 1});
+  return seen.empty() ? Rgb{} : seen.front();
+}
+
+std::vector<Rgb> PrivateDesktop::picture(ScreenPoint corner, PixelSize size) const {
+  std::vector<Rgb> seen;
+  XImage* const image = XGetImage(display_, DefaultRootWindow(display_), corner.x, corner.y,
+                                  static_cast<unsigned>(size.width),
+                                  static_cast<unsigned>(size.height), AllPlanes, ZPixmap);
+  if (image == nullptr) return seen;
+  for (int y = 0; y < size.height; ++y) {
+    for (int x = 0; x < size.width; ++x) seen.push_back(colourIn(*image, x, y));
+  }
   XDestroyImage(image);
   return seen;
 }
@@ -166,32 +180,38 @@ Rgb PrivateDesktop::pixel(int x, int y) const {
 std::vector<ScreenPoint> PrivateDesktop::pixelsOf(const Rgb& colour, ScreenPoint corner,
                                                   PixelSize size) const {
   std::vector<ScreenPoint> places;
-  XImage* const image = XGetImage(display_, DefaultRootWindow(display_), corner.x, corner.y,
-                                  static_cast<unsigned>(size.width),
-                                  static_cast<unsigned>(size.height), AllPlanes, ZPixmap);
-  if (image == nullptr) return places;
-  for (int y = 0; y < size.height; ++y) {
-    for (int x = 0; x < size.width; ++x) {
-      if (colourIn(*image, x, y) == colour) places.push_back({corner.x + x, corner.y + y});
-    }
+  ScreenPoint at = corner;
+  for (const Rgb& seen : picture(corner, size)) {
+    if (seen == colour) places.push_back(at);
+    if (++at.x < corner.x + size.width) continue;
+    at = {corner.x, at.y + 1};
   }
-  XDestroyImage(image);
   return places;
 }
 
 unsigned long PrivateDesktop::find(const std::string& title) const {
-  const std::string command = "DISPLAY=" + displayName_ +
-                              " xdotool search --onlyvisible --name '^" + title +
-                              "$' 2>/dev/null | tail -n 1";
-  const std::unique_ptr<FILE, decltype(&pclose)> answer(popen(command.c_str(), "r"), &pclose);
-  unsigned long window = 0;
-  if (!answer || std::fscanf(answer.get(), "%lu", &window) != 1) {  // NOLINT(cert-err34-c)
-    ADD_FAILURE() << "no window " << title;
+  const std::string answer =
+      answerOf("DISPLAY=" + displayName_ + " xdotool search --onlyvisible --name '^" + title +
+               "$' 2>/dev/null | tail -n 1");
+  EXPECT_FALSE(answer.empty()) << "no window " << title;
+  return std::strtoul(answer.c_str(), nullptr, 10);
+}
+
+Weston::Window PrivateDesktop::waylandWindow(const std::string& title) const {
+  for (const Weston::Window& window : weston_->windows()) {
+    if (matches(window.title, title)) return window;
   }
-  return window;
+  ADD_FAILURE() << "no window " << title;
+  return {};
+}
+
+void PrivateDesktop::clickMaximise(const std::string& title) const {
+  const Weston::Window window = waylandWindow(title);
+  click(window.corner.x + window.size.width - 41, window.corner.y + 14);
 }
 
 ScreenPoint PrivateDesktop::place(const std::string& title) const {
+  if (weston_) return waylandWindow(title).corner;
   ScreenPoint corner;
   Window child = 0;
   XTranslateCoordinates(display_, find(title), DefaultRootWindow(display_), 0, 0, &corner.x,
@@ -219,26 +239,29 @@ std::vector<std::string> PrivateDesktop::shape(const std::string& title, PixelSi
 }
 
 void PrivateDesktop::drag(int button, ScreenPoint from, ScreenPoint to) const {
-  const auto moveTo = [this](int x, int y) {
-    xdotool("mousemove " + std::to_string(x) + ' ' + std::to_string(y));
-    std::this_thread::sleep_for(milliseconds(30));
-  };
+  const auto pause = [](int time) { std::this_thread::sleep_for(std::chrono::milliseconds(time)); };
   moveTo(from.x, from.y);
+  pause(30);
   xdotool("mousedown " + std::to_string(button));
   for (int step = 1; step <= 4; ++step) {
-    moveTo(from.x + (to.x - from.x) * step / 4, from.y + (to.y - from.y) * step / 4);
+    pause(30);
+    xdotool("mousemove " + std::to_string(from.x + (to.x - from.x) * step / 4) + ' ' +
+            std::to_string(from.y + (to.y - from.y) * step / 4));
   }
+  pause(30);
   xdotool("mouseup " + std::to_string(button));
-  std::this_thread::sleep_for(milliseconds(100));
+  pause(100);
 }
 
 void PrivateDesktop::spreadCloth() {
   XSetWindowAttributes attributes{};
+  attributes.background_pixel =
+      static_cast<unsigned long>(kCloth.red << 16 | kCloth.green << 8 | kCloth.blue);
   attributes.override_redirect = True;
   attributes.event_mask = ButtonPressMask;
-  const Window cloth =
-      XCreateWindow(display_, DefaultRootWindow(display_), 0, 0, 4000, 4000, 0, CopyFromParent,
-                    InputOutput, CopyFromParent, CWOverrideRedirect | CWEventMask, &attributes);
+  const Window cloth = XCreateWindow(display_, DefaultRootWindow(display_), 0, 0, 4000, 4000, 0,
+                                     CopyFromParent, InputOutput, CopyFromParent,
+                                     CWBackPixel | CWOverrideRedirect | CWEventMask, &attributes);
   XMapWindow(display_, cloth);
   XLowerWindow(display_, cloth);
   XSync(display_, False);
@@ -254,12 +277,10 @@ bool PrivateDesktop::clothWasPressed() {
 
 std::string PrivateDesktop::darkness(int x, int y, PixelSize size, int light) const {
   std::string shape;
-  for (int row = 0; row < size.height; ++row) {
-    for (int column = 0; column < size.width; ++column) {
-      const Rgb colour = pixel(x + column, y + row);
-      shape += colour.red + colour.green + colour.blue < light ? '#' : '.';
-    }
-    shape += '\n';
+  int column = 0;
+  for (const Rgb& colour : picture({x, y}, size)) {
+    shape += colour.red + colour.green + colour.blue < light ? '#' : '.';
+    if (++column % size.width == 0) shape += '\n';
   }
   return shape;
 }

@@ -22,9 +22,15 @@ inline void clickIn(const PrivateDesktop& desktop, const Corner& corner, int x, 
   desktop.click(corner.x + x, corner.y + y);
 }
 
+// Wherever the window stands.
+inline void clickIn(const PrivateDesktop& desktop, const char* title, int x, int y) {
+  const ScreenPoint corner = desktop.place(title);
+  desktop.click(corner.x + x, corner.y + y);
+}
+
 // The menu's buttons from top to bottom, from 0.
 inline void clickMenu(const PrivateDesktop& desktop, int button) {
-  clickIn(desktop, kMenuCorner, 50, 28 + 32 * button);
+  clickIn(desktop, kMenu, 50, 28 + 32 * button);
 }
 
 inline void answer(const PrivateDesktop& desktop, const std::string& text) {
