@@ -29,6 +29,12 @@ Process::Usage usageBeyondSheet(Robot& robot, const OpenWindow& window, int seco
 }
 
 void measureRest(Robot& robot, const Programs& programs, int seconds) {
+  {
+    const OpenWindow window(robot, programs.bare);
+    const Process::Usage bare = usageASecond(window.process(), seconds);
+    print({"at rest, bare window: wake-ups a second", bare.wakeUps});
+    print({"at rest, bare window: of one core", bare.cpuSeconds * 100, "%"});
+  }
   const OpenWindow window(robot, programs.ratanka);
   const Process::Usage menu = usageASecond(window.process(), seconds);
   print({"at rest, menu: wake-ups a second", menu.wakeUps, "", 0});
