@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QSocketNotifier>
 #include <array>
+#include <cerrno>
 #include <csignal>
 
 namespace ratanka {

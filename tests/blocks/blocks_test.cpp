@@ -12,6 +12,7 @@
 #include "blocks/kockovka_form.h"
 #include "blocks/pics.h"
 #include "blocks/rules/tiles.h"
+#include "hasty_clock.h"
 #include "platform/controls.h"
 
 namespace ratanka::blocks {
@@ -19,16 +20,6 @@ namespace {
 
 constexpr FormName kGame = names::frmKockovka;
 constexpr FormName kDialog = names::frmOptions;
-
-// Seconds that pass as fast as the loop asks for them.
-class HastyClock : public Clock {
- public:
-  TimeOfDay timeOfDay() const override { return {}; }
-  double secondsSinceMidnight() const override { return now_ += 0.02; }
-
- private:
-  mutable double now_ = 0;
-};
 
 class BlocksTest : public AllFormsTest {
  protected:

@@ -9,6 +9,7 @@
 
 #include "all_forms.h"
 #include "blocks/kockovka_form.h"
+#include "hasty_clock.h"
 #include "maze/bludisko.h"
 #include "platform/controls.h"
 
@@ -16,16 +17,6 @@ namespace ratanka {
 namespace {
 
 constexpr FormName kBystander{"bystander"};
-
-// Seconds that pass as fast as the blocks game asks for them.
-class HastyClock : public Clock {
- public:
-  TimeOfDay timeOfDay() const override { return {}; }
-  double secondsSinceMidnight() const override { return now_ += 0.02; }
-
- private:
-  mutable double now_ = 0;
-};
 
 class BadMoments;
 using Leave = std::function<void()>;
