@@ -220,6 +220,19 @@ TEST_F(FormsTest, AModalFormHoldsItsCallerUntilItIsGone) {
   }
 }
 
+TEST_F(FormsTest, AModalFormLiesOverTheFormBeforeItThoughAMenuThatClosesLeavesNoWindowActive) {
+  forms.show(kSecond);
+  activate(*window(kSecond));
+  QApplication::setActiveWindow(nullptr);
+  const QWindow* beneath = nullptr;
+  QTimer::singleShot(0, qApp, [&] {
+    beneath = window(kFirst)->windowHandle()->transientParent();
+    forms.hide(kFirst);
+  });
+  forms.showModal(kFirst);
+  EXPECT_EQ(beneath, window(kSecond)->windowHandle());
+}
+
 TEST_F(FormsTest, AFormThatIsModalTwiceHoldsBothItsCallers) {
   forms.show(kSecond);
   int back = 0;

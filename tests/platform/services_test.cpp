@@ -6,7 +6,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <csignal>
+#include <iostream>
+
 #include "platform/desktop.h"
+#include "platform/end_requests.h"
 #include "platform/ini_settings_store.h"
 #include "platform/qt_ticks.h"
 #include "platform/system_clock.h"
@@ -87,6 +91,18 @@ TEST(SystemClock, SpeaksOfTheSameMoment) {
   if (after < before) GTEST_SKIP() << "midnight";
   EXPECT_GE(seconds + 1, before);
   EXPECT_LE(seconds, after);
+}
+
+TEST(EndRequests, ASecondSignalEndsAProgramThatDoesNotFollowTheFirst) {
+  for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+    const auto hang = [&] {
+      const EndRequests requests([] {});
+      raise(signal);
+      std::cerr << "goes on";
+      raise(signal);
+    };
+    EXPECT_EXIT(hang(), testing::KilledBySignal(signal), "goes on");
+  }
 }
 
 TEST(QtTicks, TickUntilTheirSourceIsGoneWhichMayBeInATick) {
