@@ -9,7 +9,9 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <regex>
+#include <sstream>
 #include <thread>
 
 #include "desktop/processes.h"
@@ -130,10 +132,7 @@ int PrivateDesktop::count(const std::string& title) const {
     return static_cast<int>(std::ranges::count_if(
         weston_->windows(), [&](const auto& window) { return matches(window.title, title); }));
   }
-  const std::string found =
-      answerOf("DISPLAY=" + displayName_ + " xdotool search --onlyvisible --name '^" + title +
-               "$' 2>/dev/null");
-  return static_cast<int>(std::ranges::count(found, '\n'));
+  return static_cast<int>(search(title).size());
 }
 
 bool PrivateDesktop::waitForWindow(const std::string& title) const {
@@ -189,12 +188,22 @@ std::vector<ScreenPoint> PrivateDesktop::pixelsOf(const Rgb& colour, ScreenPoint
   return places;
 }
 
+std::vector<unsigned long> PrivateDesktop::search(const std::string& title) const {
+  std::string answer;
+  // A search that meets a window in the moment of its end breaks off.
+  EXPECT_TRUE(waitFor([&] {
+    answer = answerOf("DISPLAY=" + displayName_ + " xdotool search --onlyvisible --name '^" +
+                      title + "$' 2>&1");
+    return answer.find("X Error") == std::string::npos;
+  })) << answer;
+  std::istringstream numbers(answer);
+  return {std::istream_iterator<unsigned long>(numbers), {}};
+}
+
 unsigned long PrivateDesktop::find(const std::string& title) const {
-  const std::string answer =
-      answerOf("DISPLAY=" + displayName_ + " xdotool search --onlyvisible --name '^" + title +
-               "$' 2>/dev/null | tail -n 1");
-  EXPECT_FALSE(answer.empty()) << "no window " << title;
-  return std::strtoul(answer.c_str(), nullptr, 10);
+  const std::vector<unsigned long> found = search(title);
+  EXPECT_FALSE(found.empty()) << "no window " << title;
+  return found.empty() ? 0 : found.back();
 }
 
 Weston::Window PrivateDesktop::waylandWindow(const std::string& title) const {

@@ -85,6 +85,8 @@ class PrivateDesktop {
 
  private:
   std::string displayName_;
+  // The visible windows of a title on X11, and the last of them.
+  std::vector<unsigned long> search(const std::string& title) const;
   unsigned long find(const std::string& title) const;
   std::string active() const;
   void moveTo(int x, int y) const;
