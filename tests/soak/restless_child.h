@@ -1,0 +1,11 @@
+#pragma once
+
+#include <cstdint>
+
+namespace ratanka::soak {
+
+// Lets a child without patience at one run of the program after another, under the laws, until so
+// many events have come, and tells what was seen. The same seed does the same.
+void playRestlessly(std::int64_t events, std::uint64_t seed);
+
+}  // namespace ratanka::soak
