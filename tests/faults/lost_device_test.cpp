@@ -137,6 +137,13 @@ void playThroughLosses() {
   require(waitFor([&] { return server->plays(); }), "music doesn't come back");
   requireQuick([&] { piano.midiOutClose(); }, "a lost piano doesn't close");
   require(piano.midiOutOpen(MidiOut::kMidiMapper) == 0, "the piano doesn't come back");
+  sound->closeMusic();
+  require(waitFor([&] { return !server->plays(); }), "the music goes on");
+  require(waitFor([&] {
+            piano.midiOutShortMsg(0x7f3c90);
+            return server->plays();
+          }),
+          "the piano stays dumb");
 
   server.reset();
   playIntoTheVoid([&] {
