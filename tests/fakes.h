@@ -141,14 +141,9 @@ class FakeDialogs : public Dialogs {
 
   Answer message(const MessageBox& box) override {
     shown.push_back(box);
-    if (expected_.empty() || expected_.front().title != box.title) {
-      ADD_FAILURE() << "unexpected box: " << box.title;
-      return box.buttons == MessageBox::Buttons::yesNo ? Answer::no : Answer::ok;
-    }
-    const Expected expected = expected_.front();
-    expected_.pop_front();
-    if (expected.whileOpen) expected.whileOpen();
-    return expected.answer;
+    const std::optional<Expected> expected = next(box.title);
+    if (expected) return expected->answer;
+    return box.buttons == MessageBox::Buttons::yesNo ? Answer::no : Answer::ok;
   }
 
   // The same of an input box, which is answered by this text, or cancelled.
@@ -160,14 +155,8 @@ class FakeDialogs : public Dialogs {
   std::optional<std::string> input(const std::string& title, const std::string& prompt,
                                    const std::string& preset) override {
     asked.push_back({title, prompt, preset});
-    if (expected_.empty() || expected_.front().title != title) {
-      ADD_FAILURE() << "unexpected box: " << title;
-      return std::nullopt;
-    }
-    const Expected expected = expected_.front();
-    expected_.pop_front();
-    if (expected.whileOpen) expected.whileOpen();
-    return expected.typed;
+    const std::optional<Expected> expected = next(title);
+    return expected ? expected->typed : std::nullopt;
   }
 
   struct Asked {
@@ -184,6 +173,18 @@ class FakeDialogs : public Dialogs {
     Answer answer;
     std::optional<std::string> typed{};
   };
+
+  // What was told of the box that comes up now; it happens meanwhile.
+  std::optional<Expected> next(const std::string& title) {
+    if (expected_.empty() || expected_.front().title != title) {
+      ADD_FAILURE() << "unexpected box: " << title;
+      return std::nullopt;
+    }
+    Expected expected = expected_.front();
+    expected_.pop_front();
+    if (expected.whileOpen) expected.whileOpen();
+    return expected;
+  }
 
   std::deque<Expected> expected_;
 };

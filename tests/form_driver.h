@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QPaintEvent>
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
@@ -22,6 +23,22 @@ class PlainForm : public Form {
 
  protected:
   void build() override {}
+};
+
+// How often a widget is painted, and what of it.
+class Paints : public QObject {
+ public:
+  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
+  int count = 0;
+  QRegion region;
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() != QEvent::Paint) return false;
+    ++count;
+    region |= static_cast<QPaintEvent*>(event)->region();
+    return false;
+  }
 };
 
 // A child's hands at forms without a display, and steered services around them.

@@ -11,19 +11,6 @@ namespace {
 
 constexpr auto kQuestion = "Hodiny";
 
-// Counts how often a widget is painted.
-class Paints : public QObject {
- public:
-  explicit Paints(QWidget& widget) { widget.installEventFilter(this); }
-  int count = 0;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    count += event->type() == QEvent::Paint ? 1 : 0;
-    return false;
-  }
-};
-
 class HodinyTest : public FormTest {
  protected:
   HodinyTest() {

@@ -267,21 +267,12 @@ void PrivateDesktop::spreadCloth() {
   attributes.background_pixel =
       static_cast<unsigned long>(kCloth.red << 16 | kCloth.green << 8 | kCloth.blue);
   attributes.override_redirect = True;
-  attributes.event_mask = ButtonPressMask;
-  const Window cloth = XCreateWindow(display_, DefaultRootWindow(display_), 0, 0, 4000, 4000, 0,
-                                     CopyFromParent, InputOutput, CopyFromParent,
-                                     CWBackPixel | CWOverrideRedirect | CWEventMask, &attributes);
+  const Window cloth =
+      XCreateWindow(display_, DefaultRootWindow(display_), 0, 0, 4000, 4000, 0, CopyFromParent,
+                    InputOutput, CopyFromParent, CWBackPixel | CWOverrideRedirect, &attributes);
   XMapWindow(display_, cloth);
   XLowerWindow(display_, cloth);
   XSync(display_, False);
-}
-
-bool PrivateDesktop::clothWasPressed() {
-  XSync(display_, False);
-  XEvent event;
-  bool pressed = false;
-  while (XCheckTypedEvent(display_, ButtonPress, &event) == True) pressed = true;
-  return pressed;
 }
 
 std::string PrivateDesktop::darkness(int x, int y, PixelSize size, int light) const {

@@ -68,10 +68,8 @@ class PrivateDesktop {
   // Presses one of the mouse's buttons (1 left, 2 middle, 3 right), moves in steps, lets go.
   void drag(int button, ScreenPoint from, ScreenPoint to) const;
 
-  // X11: a window of ours behind everything, and whether it has felt a press since it was last
-  // asked.
+  // X11: a window of ours behind everything.
   void spreadCloth();
-  bool clothWasPressed();
 
   Rgb pixel(int x, int y) const;
   // Where something dark stands in an area: '#' for a pixel whose three colours are less than

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
-#include <thread>
 
 #include "clock/rules/outline.h"
 #include "desktop/places.h"
@@ -53,39 +51,20 @@ void expectShape(const PrivateDesktop& desktop, const char* title, PixelSize siz
   EXPECT_LE(wrong, 12) << title;
 }
 
-TEST(Shape, IsCutToItsOutlineAndDraggedByAnyButton) {
+TEST(Shape, IsCutToItsOutline) {
   PrivateDesktop desktop(kScreen);
-  desktop.spreadCloth();
   desktop.startProgram();
   ASSERT_TRUE(desktop.waitForActive(kMenu));
   expectShape(desktop, kMenu, {248, 285}, kMenuEdge);
 
-  ScreenPoint at = desktop.place(kMenu);
-  EXPECT_EQ(at, (ScreenPoint{kMenuCorner.x, kMenuCorner.y}));
-  for (const int button : {1, 2, 3}) {
-    const ScreenPoint grip{at.x + 120, at.y + 14};
-    desktop.drag(button, grip, {grip.x + 40, grip.y - 20});
-    const ScreenPoint now = desktop.place(kMenu);
-    EXPECT_EQ(now, (ScreenPoint{at.x + 40, at.y - 20})) << "button " << button;
-    at = now;
-  }
-  // A label isn't the background.
-  desktop.drag(1, {at.x + 120, at.y + 30}, {at.x + 160, at.y + 60});
-  EXPECT_EQ(desktop.place(kMenu), at);
+  EXPECT_EQ(desktop.place(kMenu), (ScreenPoint{kMenuCorner.x, kMenuCorner.y}));
 
-  desktop.click(at.x + 50, at.y + 28);
+  clickMenu(desktop, 0);
   ASSERT_TRUE(desktop.waitForActive(kSheet));
   expectShape(desktop, kSheet, {536, 501}, kSheetEdge);
   Polygon clockEdge;
   for (const Point& point : clock::kOutline) clockEdge.push_back({point.x, point.y});
   expectShape(desktop, "Hodiny", {239, 190}, clockEdge);
-
-  // In the cut corner, and just beside it on the page.
-  desktop.clothWasPressed();
-  clickIn(desktop, kSheetCorner, 5, 470);
-  EXPECT_TRUE(desktop.clothWasPressed());
-  clickIn(desktop, kSheetCorner, 60, 405);
-  EXPECT_FALSE(desktop.clothWasPressed());
 
   clickIn(desktop, kSheetCorner, 476, 460);
   ASSERT_TRUE(desktop.waitForActive(kMenu));

@@ -1,7 +1,6 @@
 #include "maze/bludisko.h"
 
 #include <QFile>
-#include <QPaintEvent>
 #include <QTemporaryDir>
 
 #include "form_driver.h"
@@ -93,26 +92,13 @@ TEST_F(BludiskoTest, LeavesBitesWhereItWalked) {
   EXPECT_NE(seen(2, 3).rgb(), kWhite);
 }
 
-// Collects what of a widget is painted.
-class Painted : public QObject {
- public:
-  explicit Painted(QWidget& widget) { widget.installEventFilter(this); }
-  QRegion region;
-
- protected:
-  bool eventFilter(QObject*, QEvent* event) override {
-    if (event->type() == QEvent::Paint) region |= static_cast<QPaintEvent*>(event)->region();
-    return false;
-  }
-};
-
 TEST_F(BludiskoTest, PaintsOnlyWhatAStepHasChanged) {
   open();
-  Painted painted(*control<QWidget>(names::Bludisko, "picMaze"));
+  Paints paints(*control<QWidget>(names::Bludisko, "picMaze"));
   walk({Qt::Key_Right});
-  EXPECT_TRUE(painted.region.contains(QRect(14, 14, 32, 32))) << "where it was";
-  EXPECT_TRUE(painted.region.contains(QRect(34, 14, 32, 32))) << "where it is";
-  EXPECT_FALSE(painted.region.contains(QPoint(100, 60)));
+  EXPECT_TRUE(paints.region.contains(QRect(14, 14, 32, 32))) << "where it was";
+  EXPECT_TRUE(paints.region.contains(QRect(34, 14, 32, 32))) << "where it is";
+  EXPECT_FALSE(paints.region.contains(QPoint(100, 60)));
 }
 
 TEST_F(BludiskoTest, TellsTheWholeSecondsAndPlaysAgainOrGoes) {

@@ -19,13 +19,15 @@ class TestForm : public Form {
  public:
   struct Script {
     std::function<void(TestForm&)> load, unload, click, tick, activate;
-    int interval = 100;
     std::vector<std::string> events;
+    TestForm* form = nullptr;  // the last that was made
   };
 
   TestForm(Forms& forms, FormName name, Script& script)
       : Form(forms, {.name = name, .width = 3000, .height = 1500, .hasMenu = true}),
-        script_(script) {}
+        script_(script) {
+    script.form = this;
+  }
   ~TestForm() override { script_.events.emplace_back("drop"); }
 
   int variable = 0;
@@ -39,7 +41,7 @@ class TestForm : public Form {
     QPushButton* const button =
         addButton(client(), {.name = "Command1", .place = {0, 300, 600, 600}});
     on(button, &QPushButton::clicked, [this] { run("click", script_.click); });
-    clock = timer("Timer1", script_.interval, [this] { run("tick", script_.tick); });
+    clock = timer("Timer1", 100, [this] { run("tick", script_.tick); });
     clock->setEnabled(true);
     QMenu* const menu = addMenu(menuBar(), "mnuFile", "&Menu");
     QAction* const item =
@@ -149,9 +151,7 @@ TEST_F(FormsTest, AFormIsToldWhenAnotherOfTheProgramWasActiveBeforeIt) {
 }
 
 TEST_F(FormsTest, AFormSeesKeysBeforeTheControlThatHasTheKeyboard) {
-  TestForm* form = nullptr;
-  first.load = [&](TestForm& loaded) { form = &loaded; };
-  first.click = [&](TestForm&) { EXPECT_EQ(form->keys, (Events{"down 32", "up 32"})); };
+  first.click = [&](TestForm&) { EXPECT_EQ(first.form->keys, (Events{"down 32", "up 32"})); };
   forms.show(kFirst);
   activate(*window(kFirst));
   control<QPushButton>(kFirst, "Command1")->setFocus();
@@ -160,23 +160,21 @@ TEST_F(FormsTest, AFormSeesKeysBeforeTheControlThatHasTheKeyboard) {
 }
 
 TEST_F(FormsTest, AFormIsToldThatTheKeyboardLeavesIt) {
-  TestForm* form = nullptr;
-  first.load = [&](TestForm& loaded) { form = &loaded; };
   forms.show(kFirst);
   activate(*window(kFirst));
   press(Qt::Key_A);
   QWidget box;
   box.show();
   activate(box);
-  EXPECT_EQ(form->keys, (Events{"down 65", "leaves"}));
+  EXPECT_EQ(first.form->keys, (Events{"down 65", "leaves"}));
   box.hide();
   activate(*window(kFirst));
 
   auto* const menu = control<QMenu>(kFirst, "mnuFile");
-  form->keys.clear();
+  first.form->keys.clear();
   menu->popup({});
   strike(Qt::Key_B);  // is the menu's
-  EXPECT_EQ(form->keys, (Events{"leaves"}));
+  EXPECT_EQ(first.form->keys, (Events{"leaves"}));
   menu->close();
 }
 
@@ -332,9 +330,8 @@ TEST_F(FormsTest, ATickThatWaitedDoesNotComeAfterItsTimerWasTurnedOff) {
 }
 
 TEST_F(FormsTest, TurningATimerOnOrChangingItsIntervalStartsTheWaitAnew) {
-  Timer* clock = nullptr;
-  first.load = [&](TestForm& form) { clock = form.clock; };
   forms.show(kFirst);
+  Timer* const clock = first.form->clock;
   advance(90);
   clock->setEnabled(true);  // is on: nothing changes
   advance(10);
