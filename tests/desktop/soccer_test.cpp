@@ -26,7 +26,6 @@ constexpr Rgb kBlue{0, 0, 255};
 constexpr Rgb kLeather{34, 48, 74};  // the dark patches of the ball
 
 constexpr int kStep = 16;       // pixels
-constexpr int kBeside = 21;     // the column left of the one that the ball starts in
 constexpr int kRightmost = 44;  // the last column that a player can stand in
 
 void sleep(int time) { std::this_thread::sleep_for(milliseconds(time)); }
@@ -96,18 +95,10 @@ class Soccer : public testing::Test {
   }
   bool moves(const Rgb& colour) const { return leaves(colour, find(colour), 300); }
 
-  // The figures that count goals, as they look.
-  std::vector<ScreenPoint> goals(const Rgb& colour) const {
-    const int left = colour == kRed ? 0 : 720;
-    return desktop.pixelsOf(colour, {pitch_.x + left, pitch_.y}, {54, kFigures});
-  }
-
-  bool scoreForRed();
-
   PrivateDesktop desktop{kScreen};
 
  private:
-  static constexpr int kFigures = 112;  // their lower edge
+  static constexpr int kFigures = 112;  // the lower edge of those that count goals
 
   static int steps(int distance) { return static_cast<int>(std::lround(1.0 * distance / kStep)); }
 
@@ -124,33 +115,7 @@ class Soccer : public testing::Test {
   ScreenPoint redStart_;
 };
 
-// Red comes beside the way of the ball while that is above, high enough up the pitch for the ball
-// to fly from him to the upper line and from there into the goal. Blue runs down, out of its way.
-// The hands of a test aren't exact: it may take them some matches.
-bool Soccer::scoreForRed() {
-  for (int match = 0; match < 10; ++match) {
-    desktop.key("F1");
-    const auto before = goals(kRed);
-    desktop.xdotool("keydown Down keydown w sleep 0.08 keyup w keydown d sleep 0.14 keyup d");
-    const auto end = steady_clock::now() + std::chrono::seconds(5);
-    while (steady_clock::now() < end && goals(kRed) == before) {
-      const auto red = find(kRed);
-      const auto ball = find(kLeather);
-      if (!red || !ball) continue;
-      const bool isAbove = ball->y < red->y - 5 * kStep / 2;
-      if (column(*red) < kBeside - 1 || (column(*red) == kBeside - 1 && isAbove)) {
-        desktop.xdotool("key --delay 20 d");
-      } else if (column(*red) > kBeside) {
-        desktop.xdotool("key --delay 20 a");
-      }
-    }
-    desktop.xdotool("keyup Down");
-    if (goals(kRed) != before) return true;
-  }
-  return false;
-}
-
-TEST_F(Soccer, TwoChildrenHoldTheirKeysPlayToAGoalPauseAndComeBack) {
+TEST_F(Soccer, TwoChildrenHoldTheirKeysPauseAndComeBack) {
   startTwo();
   EXPECT_TRUE(desktop.hasWindow(kTitle));  // behind the match
   const ScreenPoint red = find(kRed).value();
@@ -165,15 +130,9 @@ TEST_F(Soccer, TwoChildrenHoldTheirKeysPlayToAGoalPauseAndComeBack) {
   EXPECT_LT(column(find(kBlue).value()), column(blue));
   EXPECT_GT(row(find(kBlue).value()), row(blue));
 
-  const auto noneOfRed = goals(kRed);
-  const auto noneOfBlue = goals(kBlue);
-  EXPECT_TRUE(scoreForRed());
-  EXPECT_NE(goals(kRed), noneOfRed);
-  EXPECT_EQ(goals(kBlue), noneOfBlue);
-  EXPECT_EQ(find(kRed), red);
   desktop.key("F1");
   sleep(100);
-  EXPECT_EQ(goals(kRed), noneOfRed);
+  EXPECT_EQ(find(kRed), red);
 
   desktop.key("F2");
   desktop.xdotool("keydown s");
