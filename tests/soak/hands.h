@@ -59,6 +59,10 @@ class Hands {
     press(key, modifiers, typed);
     release(key, modifiers);
   }
+  // Digits and signs.
+  void type(const QString& text) {
+    for (const QChar& sign : text) strike(sign.unicode(), {}, sign);
+  }
   const std::set<int>& down() const { return down_; }
 
   void pressMouse(QWidget& at, const QPoint& point, Qt::MouseButton button) {

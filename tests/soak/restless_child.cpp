@@ -285,8 +285,7 @@ class RestlessChild : public QObject {
     }
     note("reckons", box);
     box->selectAll();
-    const QString answer = QString::number(resultOf(sheet, *box) + (happens(94) ? 0 : 1));
-    for (const QChar& digit : answer) hands_.strike(digit.unicode(), {}, digit);
+    hands_.type(QString::number(resultOf(sheet, *box) + (happens(94) ? 0 : 1)));
     hands_.strike(happens(50) ? Qt::Key_Return : Qt::Key_Enter, {}, "\r");
   }
 
