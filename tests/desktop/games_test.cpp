@@ -84,6 +84,7 @@ class PiškôrkyOnScreen {
       std::this_thread::sleep_for(std::chrono::milliseconds(60));
     }
     ASSERT_TRUE(waitFor([&] { return hasBox(); }));
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));  // until it has the keyboard
     desktop_.key("Return");
     ASSERT_TRUE(waitFor([&] { return !hasBox(); }));
   }
