@@ -225,6 +225,7 @@ TEST(Puzzle, ASolvedBoardComesIntoTheListAndStaysThere) {
     const auto list = [&] {
       desktop.key("F2");
       EXPECT_TRUE(desktop.waitForActive(kList));
+      pause(200);  // until it is painted
       const ScreenPoint corner = desktop.place(kList);
       const std::string seen = desktop.darkness(corner.x + 20, corner.y + 10, {240, 60});
       desktop.key("Return");

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "desktop/places.h"
+#include "desktop/processes.h"
 #include "platform/twister_random.h"
 #include "sheets/rules/chains.h"
 #include "sheets/rules/products.h"
@@ -56,12 +57,14 @@ TEST(WholeDay, SevenSheetsThenTheCardReadsThemAndEndsTheProgram) {
   ASSERT_TRUE(desktop.waitForActive(kCard));
   EXPECT_TRUE(desktop.waitUntilGone(kMenu));
   std::string marks[7];
-  for (int line = 0; line < 7; ++line) marks[line] = markOnCard(desktop, line);
   const auto& [four, one, two, three, five, oneAgain, twoAgain] = marks;
-  EXPECT_EQ(one, oneAgain);
-  EXPECT_EQ(two, twoAgain);
-  EXPECT_EQ(std::set({one, two, three, four, five}).size(), 5U)
-      << one << two << three << four << five;
+  // As soon as the card is painted.
+  EXPECT_TRUE(waitFor([&] {
+    for (int line = 0; line < 7; ++line) marks[line] = markOnCard(desktop, line);
+    return one == oneAgain && two == twoAgain &&
+           std::set({one, two, three, four, five}).size() == 5;
+  })) << one
+      << oneAgain << two << twoAgain << three << four << five;
 
   clickIn(desktop, kCardCorner, 181, 430);
   EXPECT_EQ(desktop.waitForEnd(), 0);
