@@ -1,10 +1,14 @@
 #include "platform/application.h"
 
+#include <langinfo.h>
+
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTimer>
+#include <clocale>
+#include <string_view>
 
 #include "platform/controls.h"
 #include "platform/fonts.h"
@@ -88,8 +92,15 @@ QPalette ourPalette() {
   return palette;
 }
 
+// The toolkit wants a locale in UTF-8 and complains of every other. This one is on each machine.
+void wantUtf8() {
+  std::setlocale(LC_CTYPE, "");
+  if (std::string_view(nl_langinfo(CODESET)) != "UTF-8") qputenv("LC_ALL", "C.UTF-8");
+}
+
 // What has to be said before the toolkit starts; passes the program's path through.
 char* withToolkitSetUp(char* program) {
+  wantUtf8();
   // A desktop's theme would cost more to load than the whole program.
   qputenv("QT_QPA_PLATFORMTHEME", "generic");
   // Pictures in memory shared with the X server cost two more wake-ups each, to ask whether the

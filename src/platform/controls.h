@@ -87,6 +87,8 @@ QWidget* addImage(QWidget& form, const ImageDesign& design);
 
 // A plain white area with a thin border, painted by the form inside it.
 class PictureBox : public QWidget {
+  Q_OBJECT
+
  public:
   using QWidget::QWidget;
 
@@ -120,6 +122,8 @@ class Clicks : public QObject {
 // An area that the form paints whole. Of one that is larger than the screen it is asked for what
 // the screen shows, and for more when the window moves.
 class Canvas : public QWidget {
+  Q_OBJECT
+
  public:
   using Paint = std::function<void(QPainter&, const QRect& exposed)>;
 

@@ -61,6 +61,14 @@ void centreOnScreen(QWidget& window) {
               area.top() + middle(area.height(), window.height()));
 }
 
+// The toolkit would rather have the window system asked. A compositor refuses.
+void takeForActive(QWidget* window) {
+  QT_WARNING_PUSH
+  QT_WARNING_DISABLE_DEPRECATED
+  QApplication::setActiveWindow(window);
+  QT_WARNING_POP
+}
+
 void centreOverActiveWindow(QWidget& window) {
   const QWidget* const active = QApplication::activeWindow();
   if (active == nullptr) return;

@@ -31,6 +31,10 @@ bool canDrawTranslucentWindows();
 // top likewise, in whole twips.
 void centreOnScreen(QWidget& window);
 
+// Lets the toolkit take this window for the active one, whatever the window system says; null:
+// none.
+void takeForActive(QWidget* window);
+
 // Puts a window in the middle of the program's active one.
 void centreOverActiveWindow(QWidget& window);
 

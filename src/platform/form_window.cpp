@@ -179,7 +179,7 @@ bool FormWindow::event(QEvent* event) {
 void FormWindow::giveKeyboardBack() {
   FormWindow* const before = windowBefore();
   if (before != nullptr && isActiveWindow() && QApplication::activeModalWidget() == nullptr) {
-    QApplication::setActiveWindow(before);
+    takeForActive(before);
   }
 }
 

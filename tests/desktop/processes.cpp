@@ -1,6 +1,7 @@
 #include "desktop/processes.h"
 
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,7 +16,8 @@
 namespace ratanka {
 
 bool waitFor(const std::function<bool()>& holds) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+  const auto patience = std::chrono::seconds(testing::Test::HasFailure() ? 1 : 10);
+  const auto end = std::chrono::steady_clock::now() + patience;
   while (!holds()) {
     if (std::chrono::steady_clock::now() > end) return false;
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
@@ -55,7 +57,8 @@ void end(pid_t process) {
 
 std::string answerOf(const std::string& command) {
   std::string answer;
-  const std::unique_ptr<FILE, decltype(&pclose)> pipe(popen(command.c_str(), "r"), &pclose);
+  const auto close = [](FILE* file) { pclose(file); };
+  const std::unique_ptr<FILE, decltype(close)> pipe(popen(command.c_str(), "r"), close);
   std::array<char, 4096> piece{};
   while (pipe && std::fgets(piece.data(), piece.size(), pipe.get()) != nullptr) {
     answer += piece.data();

@@ -4,6 +4,7 @@
 
 #include "form_driver.h"
 #include "platform/controls.h"
+#include "platform/desktop.h"
 #include "platform/form.h"
 #include "platform/menus.h"
 #include "platform/timer.h"
@@ -221,7 +222,7 @@ TEST_F(FormsTest, AModalFormHoldsItsCallerUntilItIsGone) {
 TEST_F(FormsTest, AModalFormLiesOverTheFormBeforeItThoughAMenuThatClosesLeavesNoWindowActive) {
   forms.show(kSecond);
   activate(*window(kSecond));
-  QApplication::setActiveWindow(nullptr);
+  takeForActive(nullptr);
   const QWindow* beneath = nullptr;
   QTimer::singleShot(0, qApp, [&] {
     beneath = window(kFirst)->windowHandle()->transientParent();
