@@ -22,10 +22,6 @@ sheets::Examples examplesOf(sheets::Examples (*show)(Random&)) {
   return show(random);
 }
 
-std::vector<std::string> variablesOf(const Home& home) {
-  return {home.variable(), "XDG_RUNTIME_DIR=" + home.path(""), "XDG_CACHE_HOME=" + home.path("")};
-}
-
 void endFromSheet(PrivateDesktop& desktop) {
   comeBackTo(desktop, kSheet);
   desktop.key("alt+F4");
@@ -35,7 +31,7 @@ void endFromSheet(PrivateDesktop& desktop) {
 TEST(Faults, TwoCopiesWorkSideBySide) {
   const Home home;
   PrivateDesktop desktop(kScreen);
-  desktop.startProgram(variablesOf(home), home.path(kSaid),
+  desktop.startProgram({home.variable()}, home.path(kSaid),
                        {"sh", "-c", R"("$0" & one=$!; "$0" && wait $one)"});
   ASSERT_TRUE(waitFor([&] { return desktop.count(kMenu) == 2; }));
   for (const int others : {1, 0}) {
@@ -62,7 +58,7 @@ TEST(Faults, OnAFullDiskSettingsStayAsTheyWere) {
   home.put("ratanka/Kockovka32.ini", old);
   PrivateDesktop desktop(kScreen);
   // What it says goes through a pipe: nothing would fit on the disk.
-  desktop.startProgram(variablesOf(home), home.path(kSaid),
+  desktop.startProgram({home.variable()}, home.path(kSaid),
                        {"bash", "-c",
                         "(trap '' XFSZ; ulimit -f 0; exec \"$0\") 2>&1 | cat;"
                         "exit ${PIPESTATUS[0]}"});
@@ -92,9 +88,8 @@ TEST(Faults, WithoutFontsASheetIsDoneAllTheSame) {
     if (hasForeign) std::filesystem::copy(foreign, home.path("fonts"));
     home.put("fonts.conf", head + "<dir>" + home.path("fonts") + "</dir></fontconfig>");
     PrivateDesktop desktop(kScreen);
-    std::vector<std::string> variables = variablesOf(home);
-    variables.push_back("FONTCONFIG_FILE=" + home.path("fonts.conf"));
-    desktop.startProgram(variables, home.path(kSaid));
+    desktop.startProgram({home.variable(), "FONTCONFIG_FILE=" + home.path("fonts.conf")},
+                         home.path(kSaid));
     ASSERT_NO_FATAL_FAILURE(doSheet(desktop, 0, examplesOf(sheets::malá::ShowStart)));
     EXPECT_TRUE(desktop.hasWindow(kSheet));
     endFromSheet(desktop);
@@ -120,15 +115,13 @@ TEST(Faults, NoSocketLeadsOutOfTheMachine) {
       {.words = {"pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
                  "-L", "module-native-protocol-unix auth-anonymous=1 socket=" + home.path("sound"),
                  "-L", "module-null-sink"},
-       .variables = {"HOME=" + home.path(""), "XDG_RUNTIME_DIR=" + home.path("")},
        .says = "/dev/null"});
   EXPECT_TRUE(waitFor([&] { return std::filesystem::exists(home.path("sound")); }));
   PrivateDesktop desktop(kScreen);
-  std::vector<std::string> variables = variablesOf(home);
-  variables.push_back("PULSE_SERVER=unix:" + home.path("sound"));
-  variables.emplace_back("ASAN_OPTIONS=detect_leaks=0");  // nobody can look while strace does
   desktop.startProgram(
-      variables, home.path(kSaid),
+      {home.variable(), "PULSE_SERVER=unix:" + home.path("sound"),
+       "ASAN_OPTIONS=detect_leaks=0"},  // nobody can look while strace does
+      home.path(kSaid),
       {"strace", "-f", "-qq", "--seccomp-bpf", "-e", "trace=network", "-o", home.path("log")});
   ASSERT_NO_FATAL_FAILURE(earn(desktop, 1, examplesOf(sheets::veľká::ShowStart), kPiano));
   desktop.key("z x c");

@@ -9,7 +9,8 @@
 // Programs that a test starts beside itself.
 namespace ratanka {
 
-// Asks again and again until it holds; gives up after ten seconds.
+// Asks again and again until it holds; gives up after ten seconds, and after one in a test that has
+// failed already: what it waits for may never come.
 bool waitFor(const std::function<bool()>& holds);
 
 struct Command {

@@ -26,12 +26,8 @@ inline void pause(int milliseconds) {
 class Visit {
  public:
   explicit Visit(WindowSystem system) : desktop(kScreen, system) {
-    std::vector<std::string> variables{home_.variable()};
-    if (system == WindowSystem::x11) {
-      desktop.spreadCloth();
-      variables.push_back("XDG_RUNTIME_DIR=" + home_.path(""));
-    }
-    desktop.startProgram(variables, home_.path("said"));
+    if (system == WindowSystem::x11) desktop.spreadCloth();
+    desktop.startProgram({home_.variable()}, home_.path("said"));
     EXPECT_TRUE(desktop.waitForActive(kMenu));
   }
   ~Visit() { EXPECT_EQ(home_.content("said"), ""); }

@@ -6,7 +6,6 @@
 // Ends with 1 when something that must always hold doesn't; the sanitizers watch the rest.
 
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <cstdio>
 #include <cstdlib>
 #include <random>
@@ -42,10 +41,6 @@ int main(int argumentCount, char** arguments) {
   __sanitizer_set_death_callback([] { soak::diary.print(); });
 #endif
   qInstallMessageHandler(soak::tellButForThePlugin);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QTemporaryDir home;
-  qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
-  qputenv("XDG_RUNTIME_DIR", home.path().toUtf8());
   const Application application(arguments[0]);
   const soak::Watchdog watchdog;
   soak::playRestlessly(events, soak::diary.seed);
