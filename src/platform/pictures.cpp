@@ -1,9 +1,11 @@
 #include "platform/pictures.h"
 
 #include <QIconEngine>
+#include <QLibraryInfo>
 #include <QPainter>
 #include <QPixmapCache>
 #include <QSvgRenderer>
+#include <QVersionNumber>
 
 namespace ratanka {
 namespace {
@@ -22,8 +24,9 @@ class PictureIconEngine : public QIconEngine {
   }
 
   QPixmap scaledPixmap(const QSize& size, QIcon::Mode, QIcon::State, qreal pixelRatio) override {
-    // The engine is asked in the screen's own pixels.
-    return picture(name_, (QSizeF(size) / pixelRatio).toSize(), pixelRatio);
+    // Before its version 6.8 the toolkit asks in the screen's own pixels.
+    static const bool kIsOwn = QLibraryInfo::version() < QVersionNumber(6, 8);
+    return picture(name_, kIsOwn ? (QSizeF(size) / pixelRatio).toSize() : size, pixelRatio);
   }
 
   QIconEngine* clone() const override { return new PictureIconEngine(name_); }
