@@ -10,10 +10,11 @@
 // NOLINTNEXTLINE(readability-redundant-declaration): the name is the system's
 extern char** environ;
 
-// Lost once per process, in libraries that aren't ours.
+// Lost in libraries that aren't ours: once per process, or once per lost sound server.
 // NOLINTBEGIN(bugprone-reserved-identifier): the names are the sanitizer's
 extern "C" const char* __lsan_default_suppressions() {
-  return "leak:libdbus-1\nleak:libfontconfig\nleak:libwayland-client\nleak:libxkbcommon\n";
+  return "leak:libdbus-1\nleak:libfontconfig\nleak:libglib-2.0\nleak:libpulse\n"
+         "leak:libwayland-client\nleak:libxkbcommon\nleak:QGenericUnixServices\n";
 }
 extern "C" const char* __lsan_default_options() { return "print_suppressions=0"; }
 // NOLINTEND(bugprone-reserved-identifier)

@@ -19,21 +19,6 @@ constexpr std::chrono::seconds kPatience{10};
 // Of 128. The music lies beneath the waves, which are to be heard and to be told apart.
 constexpr int kMusicVolume = 25;
 
-// A device that went with its sound server has stopped, though nobody closed it.
-bool isRunning(SDL_AudioDeviceID device) {
-  return SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED;
-}
-
-// A bit for each number.
-unsigned runningDevices() {
-  constexpr SDL_AudioDeviceID kEnd = 18;  // the library has sixteen at most, from 2 on
-  unsigned devices = 0;
-  for (SDL_AudioDeviceID device = 2; device < kEnd; ++device) {
-    if (isRunning(device)) devices |= 1U << device;
-  }
-  return devices;
-}
-
 SDL_RWops* reader(const std::string& bytes) {
   return SDL_RWFromConstMem(bytes.data(), static_cast<int>(bytes.size()));
 }
@@ -47,20 +32,18 @@ Mixer::~Mixer() {
 
 bool Mixer::open() {
   const auto now = std::chrono::steady_clock::now();
-  if (isOpen_ && !isRunning(device_)) {
-    closeMusic();
-    close();
-  }
+  closeLostDevice();
   if (isOpen_ || now < nextTry_) return isOpen_;
   const SoundSystem system;
-  const unsigned others = runningDevices();
-  isOpen_ =
-      system.isReady() && Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kFrames, nullptr, 0) == 0;
+  const unsigned others = system.runningDevices();
+  isOpen_ = system.open(
+      [] { return Mix_OpenAudioDevice(kRate, AUDIO_S16SYS, 2, kFrames, nullptr, 0) == 0; });
   if (!isOpen_) {
     nextTry_ = now + kPatience;
     return false;
   }
-  device_ = static_cast<SDL_AudioDeviceID>(std::countr_zero(runningDevices() & ~others));
+  system.keepDevices(true);
+  device_ = static_cast<SDL_AudioDeviceID>(std::countr_zero(system.runningDevices() & ~others));
   Mix_AllocateChannels(kChannels);
   Mix_VolumeMusic(kMusicVolume);
   Mix_SetSoundFonts(soundFont_.c_str());
@@ -71,7 +54,14 @@ void Mixer::close() {
   if (!isOpen_) return;
   const SoundSystem system;
   Mix_CloseAudio();
+  system.keepDevices(false);
   isOpen_ = false;
+}
+
+void Mixer::closeLostDevice() {
+  if (!isOpen_ || SDL_GetAudioDeviceStatus(device_) != SDL_AUDIO_STOPPED) return;
+  closeMusic();
+  close();
 }
 
 Mix_Chunk* Mixer::wave(const std::string& file) {
@@ -118,6 +108,7 @@ void Mixer::closeMusic() {
 }
 
 void Mixer::rest() {
+  closeLostDevice();
   if (!music_ && isOpen_ && Mix_Playing(-1) == 0) close();
 }
 

@@ -29,7 +29,7 @@ class Mixer {
   void closeMusic();
 
   // Gives the device back to the system if nothing is playing and no music is open: an open device
-  // costs a little all the time, and keeps the hardware awake.
+  // costs a little all the time, and keeps the hardware awake. So it does with one that was lost.
   void rest();
 
  private:
@@ -49,6 +49,7 @@ class Mixer {
 
   bool open();
   void close();
+  void closeLostDevice();
   Mix_Chunk* wave(const std::string& file);
 };
 

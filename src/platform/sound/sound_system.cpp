@@ -22,10 +22,14 @@ void silenceMessages() {
   SDL_LogSetOutputFunction([](void*, int, SDL_LogPriority, const char*) {}, nullptr);
 }
 
+// Used by who holds the lock.
+unsigned timesAnew = 0;
+bool areKept = false;
+
 }  // namespace
 
 SoundSystem::SoundSystem() : lock_(oneAtATime()) {
-  if (SDL_WasInit(SDL_INIT_AUDIO) != 0) return;
+  if (isReady()) return;
   silenceMessages();
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   // How the desktop's volume control calls us.
@@ -35,5 +39,27 @@ SoundSystem::SoundSystem() : lock_(oneAtATime()) {
 }
 
 bool SoundSystem::isReady() const { return SDL_WasInit(SDL_INIT_AUDIO) != 0; }
+
+bool SoundSystem::open(const std::function<bool()>& open) const {
+  if (!isReady()) return false;
+  if (open()) return true;
+  if (areKept || runningDevices() != 0) return false;
+  SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  ++timesAnew;
+  return SDL_InitSubSystem(SDL_INIT_AUDIO) == 0 && open();
+}
+
+unsigned SoundSystem::age() const { return timesAnew; }
+
+void SoundSystem::keepDevices(bool keep) const { areKept = keep; }
+
+unsigned SoundSystem::runningDevices() const {
+  constexpr SDL_AudioDeviceID kEnd = 18;  // the library has sixteen at most, from 2 on
+  unsigned devices = 0;
+  for (SDL_AudioDeviceID device = 2; device < kEnd; ++device) {
+    if (SDL_GetAudioDeviceStatus(device) != SDL_AUDIO_STOPPED) devices |= 1U << device;
+  }
+  return devices;
+}
 
 }  // namespace ratanka

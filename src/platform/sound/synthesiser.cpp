@@ -34,7 +34,8 @@ std::unique_ptr<Synthesiser> Synthesiser::open(const std::string& soundFont) {
   constexpr int kResetPresets = 1;
   const bool isOpen = fluid_synth_sfload(synthesiser->synth_.get(), soundFont.c_str(),
                                          kResetPresets) != FLUID_FAILED &&
-                      synthesiser->openDevice();
+                      system.open([&] { return synthesiser->openDevice(); });
+  synthesiser->age_ = system.age();
   return isOpen ? std::move(synthesiser) : nullptr;
 }
 
@@ -58,7 +59,7 @@ bool Synthesiser::openDevice() {
 Synthesiser::~Synthesiser() {
   if (device_ == 0) return;
   const SoundSystem system;
-  SDL_CloseAudioDevice(device_);
+  if (age_ == system.age()) SDL_CloseAudioDevice(device_);
 }
 
 // Once the last note and its echo have died away, the synthesiser is left to sleep.
