@@ -29,7 +29,7 @@ alone() {
     export BARE_SYSTEM_SCRATCH=$(mktemp -d)
     trap "kill \$script \$network 2>/dev/null; wait; rm -rf --one-file-system $BARE_SYSTEM_SCRATCH" EXIT
     trap "exit 143" INT TERM HUP
-    unshare --net --mount --pid --fork --mount-proc --kill-child "$0" "$@" &
+    unshare --net --uts --mount --pid --fork --mount-proc --kill-child "$0" "$@" &
     script=$!
     while [ /proc/$script/ns/net -ef /proc/self/ns/net ]; do sleep 0.05; done
     slirp4netns --configure --mtu=65520 $script tap0 >/dev/null 2>&1 &
@@ -79,6 +79,7 @@ makeBareSystem() {
       '$2 == own && $3 == "main" && !mirror { print mirror = $1 }')
   [ -n "$mirror" ] || fail "apt knows no mirror of its own"
   waitFor grep -q tap0 /proc/net/route
+  hostname bare
   # The network's own name server.
   echo "nameserver 10.0.2.3" >"$scratch/resolv.conf"
   mount --bind "$scratch/resolv.conf" /etc/resolv.conf
@@ -93,6 +94,7 @@ makeBareSystem() {
   echo 'Acquire::Retries "3";' >"$root/etc/apt/apt.conf.d/91retries"
   printf '#!/bin/sh\nexit 101\n' >"$root/usr/sbin/policy-rc.d"  # no services here
   chmod +x "$root/usr/sbin/policy-rc.d"
+  echo "127.0.0.1 localhost bare" >"$root/etc/hosts"
   mount -t proc proc "$root/proc"
   mount -t devpts devpts "$root/dev/pts"
   mount -t tmpfs tmpfs "$root/dev/shm"
