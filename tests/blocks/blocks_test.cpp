@@ -67,7 +67,7 @@ class BlocksTest : public AllFormsTest {
 
   void openOptions(const std::function<void()>& child) {
     activate(*window(kGame));
-    QTimer::singleShot(0, qApp, [this, child] {
+    QTimer::singleShot(0, qApp, [child] {
       activate(*window(kDialog));
       child();
     });
@@ -88,7 +88,7 @@ TEST_F(BlocksTest, AGameIsSeenAndSteeredInItsWindow) {
   random.numbers = {0.9, 0.9, 0.0};  // squares, and the bar after them
   EXPECT_FALSE(item("mnuEndGame")->isEnabled());
   playGame({[] {},
-            [this] {
+            [] {
               EXPECT_EQ(boardPixel(5, 1), kSquare);
               EXPECT_EQ(boardPixel(6, 1), kSquare);
               EXPECT_EQ(boardPixel(4, 1), kEmpty);
@@ -97,12 +97,12 @@ TEST_F(BlocksTest, AGameIsSeenAndSteeredInItsWindow) {
               EXPECT_EQ(nextPixel(), kSquare);
               strike(Qt::Key_Left);
             },
-            [this] {
+            [] {
               EXPECT_EQ(boardPixel(4, 2), kSquare);
               EXPECT_EQ(boardPixel(6, 2), kEmpty);
               strike(Qt::Key_Down);
             },
-            [this] {
+            [] {
               EXPECT_EQ(boardPixel(4, 18), kSquare);
               EXPECT_NE(label("lblScore"), "0");
               EXPECT_EQ(label("lblLines"), "0");

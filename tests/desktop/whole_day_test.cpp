@@ -57,14 +57,11 @@ TEST(WholeDay, SevenSheetsThenTheCardReadsThemAndEndsTheProgram) {
   ASSERT_TRUE(desktop.waitForActive(kCard));
   EXPECT_TRUE(desktop.waitUntilGone(kMenu));
   std::string marks[7];
-  const auto& [four, one, two, three, five, oneAgain, twoAgain] = marks;
-  // As soon as the card is painted.
+  // Four, one, two, three, five, one again, two again: as soon as the card is painted.
   EXPECT_TRUE(waitFor([&] {
     for (int line = 0; line < 7; ++line) marks[line] = markOnCard(desktop, line);
-    return one == oneAgain && two == twoAgain &&
-           std::set({one, two, three, four, five}).size() == 5;
-  })) << one
-      << oneAgain << two << twoAgain << three << four << five;
+    return marks[5] == marks[1] && marks[6] == marks[2] && std::set(marks, marks + 5).size() == 5;
+  })) << testing::PrintToString(marks);
 
   clickIn(desktop, kCardCorner, 181, 430);
   EXPECT_EQ(desktop.waitForEnd(), 0);

@@ -77,7 +77,7 @@ void Laws::lookAtModal(const QWidget* modal) {
 
 void Laws::measure() {
   if (diary.event % 20 != 0) return;
-  const auto tenth = static_cast<std::size_t>((diary.event - 1) * kTenths / events_);
+  const auto tenth = static_cast<std::size_t>((diary.event - 1) * std::int64_t{kTenths} / events_);
   peaks_.at(tenth) = std::max(peaks_.at(tenth), static_cast<double>(heapBytes()) / 1e6);
 }
 

@@ -40,7 +40,7 @@ class SoccerTest : public AllFormsTest {
     settle();
   }
   void startOne(int opponent, Qt::MouseButton button = Qt::LeftButton) {
-    startOne([=, this] { QTest::mouseClick(picture(opponent), button, {}, {40, 40}); });
+    startOne([=] { QTest::mouseClick(picture(opponent), button, {}, {40, 40}); });
     activate(*window(kOne));
   }
   static QWidget* picture(int opponent) {
@@ -256,7 +256,7 @@ TEST_F(SoccerTest, TheChosenOpponentPlaysAndIsNamed) {
 }
 
 TEST_F(SoccerTest, TheChoiceLiftsThePictureUnderThePointerAndEscGoesBack) {
-  startOne([this] {
+  startOne([] {
     for (const int opponent : {2, 4}) {
       QTest::mouseMove(picture(opponent), {30, 30});
       settle();

@@ -32,7 +32,7 @@ class Synthesiser {
   std::unique_ptr<fluid_settings_t, Free> settings_;
   std::unique_ptr<fluid_synth_t, Free> synth_;
   SDL_AudioDeviceID device_ = 0;
-  unsigned age_ = 0;  // of the sound libraries, when the device was opened
+  unsigned age_ = 0;      // of the sound libraries, when the device was opened
   bool isQuiet_ = false;  // the last frames were; the device's thread alone uses it
 
   Synthesiser();
