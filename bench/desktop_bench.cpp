@@ -32,6 +32,7 @@ void measure(const Programs& programs, const Runs& runs) {
   // Without a window manager yet: what it draws around the bare window isn't the window's doing.
   measureStart(robot, programs, runs.startPairs);
   measureMemory(robot, programs, runs.memoryPairs);
+  measureWayland(robot, programs, runs.startPairs);
 
   const Process windowManager({"openbox", "--sm-disable"});
   robot.awaitWindowManager();

@@ -15,6 +15,9 @@ void measureStart(Robot& robot, const Programs& programs, int pairs);
 // With the menu at rest, against the bare window in turns.
 void measureMemory(Robot& robot, const Programs& programs, int pairs);
 
+// Start and memory of the menu on Wayland, against those on X11 in turns.
+void measureWayland(Robot& robot, const Programs& programs, int pairs);
+
 // A second of a process's life at rest, on the average over so many.
 Process::Usage usageASecond(const Process& process, int seconds);
 
