@@ -10,13 +10,9 @@
 // NOLINTNEXTLINE(readability-redundant-declaration): the name is the system's
 extern char** environ;
 
-// Lost in libraries that aren't ours: once per process, or once per lost sound server.
-// NOLINTBEGIN(bugprone-reserved-identifier): the names are the sanitizer's
-extern "C" const char* __lsan_default_suppressions() {
-  return "leak:libdbus-1\nleak:libfontconfig\nleak:libglib-2.0\nleak:libpulse\n"
-         "leak:libwayland-client\nleak:libxkbcommon\nleak:QGenericUnixServices\n";
-}
-extern "C" const char* __lsan_default_options() { return "print_suppressions=0"; }
+// NOLINTBEGIN(bugprone-reserved-identifier): known_leaks.cpp
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_options();
 // NOLINTEND(bugprone-reserved-identifier)
 
 namespace ratanka {

@@ -81,7 +81,10 @@ void Hodiny::tmr_Timer() {
 
 void Hodiny::picBackGround_Click() {
   const Dialogs::Answer answer = dialogs_.message(
-      {.title = "Hodiny", .text = "Schovať hodiny?", .buttons = MessageBox::Buttons::yesNo});
+      {.title = "Hodiny",
+       .text = "Schovať hodiny?",
+       .buttons = MessageBox::Buttons::yesNo,
+       .isNoPreset = true});  // an Enter that was meant for the sheet hides nothing
   if (answer == Dialogs::Answer::yes) forms().drop(names::Hodiny);
 }
 

@@ -136,7 +136,8 @@ void TextBox::setOpen(bool open) {
 }
 
 void TextBox::keyPressEvent(QKeyEvent* event) {
-  const std::optional<char> digit = digitOfRow(*event);
+  const std::optional<char> row = digitOfRow(*event);
+  const std::optional<char> digit = row ? row : digitOfKeypad(*event);
   if (!digit) {
     QLineEdit::keyPressEvent(event);
     return;

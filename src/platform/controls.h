@@ -46,7 +46,8 @@ void setBack(QLabel& label, const Rgb& back);
 void setBackReadably(QLabel& label, const Rgb& back);
 
 // A line of text to type into; tells of each key that is released in it. The digit keys of a
-// keyboard that has letters and signs there type digits.
+// keyboard that has letters and signs there type digits, and so do those of the keypad, however it
+// is switched.
 class TextBox : public QLineEdit {
   Q_OBJECT
 

@@ -14,6 +14,7 @@ struct MessageBox {
   std::string text;
   Icon icon = Icon::information;
   Buttons buttons = Buttons::ok;
+  bool isNoPreset = false;  // of a question: Enter says no
 };
 
 // Boxes that stop the child until they are answered. Timers of the other forms run on meanwhile.

@@ -11,7 +11,6 @@
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
-#include "platform/keys.h"
 #include "platform/maximising.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
@@ -32,12 +31,6 @@ QRegion grown(const QRegion& region) {
 // alone, and one that hears of a drag after its release lets the window hang on the pointer.
 bool movesByItself(QWindow& window) {
   return QGuiApplication::platformName() != "xcb" && window.startSystemMove();
-}
-
-// Which key of the keyboard it is, whatever it types.
-quint32 placeOf(const QKeyEvent& event) {
-  const quint32 scanCode = event.nativeScanCode();
-  return scanCode != 0 ? scanCode : static_cast<quint32>(event.key());
 }
 
 }  // namespace
@@ -160,7 +153,7 @@ void FormWindow::changeEvent(QEvent* event) {
 bool FormWindow::event(QEvent* event) {
   const bool isHeard = isVisible() && design_.takesKeyboard;
   if (isHeard && event->type() == QEvent::WindowDeactivate) {
-    heldKeys_.clear();
+    if (form_ != nullptr) form_->forms_.keyboard_.letGo(windowHandle());
     tell(&Form::keyboardLeaves);
   }
   if (isHeard && event->type() == QEvent::WindowActivate && form_ != nullptr) {
@@ -205,40 +198,14 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     return before != nullptr && QCoreApplication::sendEvent(before->windowHandle(), event);
   }
   const Form::HandlerScope scope(*form_);
+  const auto& key = *static_cast<QKeyEvent*>(event);
+  const int code = form_->forms_.keyboard_.codeOf(key);
   if (isPress) {
-    keyWentDown(*static_cast<QKeyEvent*>(event));
-  } else {
-    keyCameUp(*static_cast<QKeyEvent*>(event));
+    form_->Form_KeyDown(code);
+  } else if (!key.isAutoRepeat()) {
+    form_->Form_KeyUp(code);
   }
   return false;
-}
-
-// A repeat of a key that went down elsewhere, before this window came up, isn't for it: the Esc
-// that left a match must not end the program on the title. Where the keyboard changes windows, X11
-// breaks a repeat into a release and a press of the same time.
-void FormWindow::keyWentDown(const QKeyEvent& event) {
-  const quint32 place = placeOf(event);
-  const bool isBroken =
-      event.nativeScanCode() != 0 && form_->forms_.isStrayKeyUp(place, event.timestamp());
-  if (isBroken || (event.isAutoRepeat() && !heldKeys_.contains(place))) return;
-  const int code = keyCode(event);
-  heldKeys_[place] = code;
-  form_->Form_KeyDown(code);
-}
-
-// A key comes up as what it went down as: Shift and AltGr may have come or gone meanwhile.
-void FormWindow::keyCameUp(const QKeyEvent& event) {
-  if (event.isAutoRepeat()) return;
-  const quint32 place = placeOf(event);
-  const auto held = heldKeys_.find(place);
-  if (held == heldKeys_.end()) {
-    form_->forms_.setStrayKeyUp(place, event.timestamp());
-    form_->Form_KeyUp(keyCode(event));
-    return;
-  }
-  const int code = held->second;
-  heldKeys_.erase(held);
-  form_->Form_KeyUp(code);
 }
 
 void FormWindow::tell(void (Form::*happening)()) {

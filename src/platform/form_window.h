@@ -4,7 +4,6 @@
 #include <QPointer>
 #include <QPolygon>
 #include <QWidget>
-#include <map>
 #include <optional>
 
 #include "platform/form.h"
@@ -53,18 +52,15 @@ class FormWindow : public QWidget {
   void tell(void (Form::*happening)());
   void giveKeyboardBack();
   FormWindow* windowBefore() const;
-  void keyWentDown(const QKeyEvent& event);
-  void keyCameUp(const QKeyEvent& event);
 
   Form* form_;
   const FormDesign design_;
   QMenuBar* menuBar_ = nullptr;  // these two only where there are menus
   QWidget* client_ = nullptr;
   QEventLoop* waiting_ = nullptr;
-  std::map<quint32, int> heldKeys_;  // by their place: the codes that they went down as
-  QPolygon outline_;                 // empty where the window isn't cut
-  QPainterPath outside_;             // what a smooth cut takes away; empty where there is none
-  std::optional<QPoint> grip_;       // where the window is held, while we move it
+  QPolygon outline_;            // empty where the window isn't cut
+  QPainterPath outside_;        // what a smooth cut takes away; empty where there is none
+  std::optional<QPoint> grip_;  // where the window is held, while we move it
 };
 
 }  // namespace ratanka

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
-#include <utility>
 
 #include "platform/form_name.h"
+#include "platform/keyboard.h"
 
 namespace ratanka {
 
@@ -59,19 +58,14 @@ class Forms {
   void handlerStarted() { ++handlersRunning_; }
   void handlerReturned();
   void loadAnd(FormName name, void (Form::*display)());
-  // Of a key that came up in a window that hadn't seen it go down.
-  void setStrayKeyUp(std::uint32_t place, std::uint64_t time) { strayKeyUp_ = {place, time}; }
-  bool isStrayKeyUp(std::uint32_t place, std::uint64_t time) const {
-    return strayKeyUp_ == std::pair{place, time};
-  }
   void formBecameActive(Form& form);
   void formLeft(const Form& form);
 
   Ticks& ticks_;
+  Keyboard keyboard_;
   std::map<FormName, Maker> makers_;
   std::map<FormName, std::shared_ptr<Form>> forms_;
   const Form* active_ = nullptr;  // the form that had the keyboard last
-  std::pair<std::uint32_t, std::uint64_t> strayKeyUp_;
   int handlersRunning_ = 0;
   bool isEnding_ = false;
 };

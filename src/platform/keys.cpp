@@ -3,6 +3,7 @@
 #include <QKeyEvent>
 #include <QStringView>
 #include <array>
+#include <string_view>
 
 namespace ratanka {
 namespace {
@@ -21,6 +22,13 @@ int codeOfPlace(quint32 scanCode) {
     default:
       return key::kNone;
   }
+}
+
+// The keypad's own signs are none of the keys that the system names.
+bool isKeypadSign(const QKeyEvent& event) {
+  return event.modifiers().testFlag(Qt::KeypadModifier) &&
+         (event.key() == Qt::Key_Slash || event.key() == Qt::Key_Period ||
+          event.key() == Qt::Key_Comma);
 }
 
 int codeOfSign(int sign) {
@@ -67,6 +75,18 @@ int codeOfSign(int sign) {
 
 }  // namespace
 
+std::optional<char> digitOfKeypad(const QKeyEvent& event) {
+  // From the scan code of the key of 7 on; a blank for the keys between the digits.
+  static constexpr std::string_view kKeys = "789 456 1230";
+  constexpr quint32 kFirstScanCode = 79;
+  const quint32 place = event.nativeScanCode() - kFirstScanCode;
+  const bool isDigit = event.key() >= Qt::Key_0 && event.key() <= Qt::Key_9;
+  if (event.modifiers() != Qt::KeypadModifier || isDigit || place >= kKeys.size()) {
+    return std::nullopt;
+  }
+  return kKeys[place] == ' ' ? std::nullopt : std::optional(kKeys[place]);
+}
+
 std::optional<char> digitOfRow(const QKeyEvent& event) {
   struct Key {
     char digit;
@@ -96,7 +116,8 @@ std::optional<char> digitOfRow(const QKeyEvent& event) {
 int keyCode(const QKeyEvent& event) {
   const bool isLetter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
   const int place = isLetter ? key::kNone : codeOfPlace(event.nativeScanCode());
-  return place != key::kNone ? place : codeOfSign(event.key());
+  if (place != key::kNone) return place;
+  return isKeypadSign(event) ? key::kNone : codeOfSign(event.key());
 }
 
 }  // namespace ratanka

@@ -33,6 +33,10 @@ inline constexpr int kSlash = 191;
 // place on the keyboard.
 int keyCode(const QKeyEvent& event);
 
+// The digit of a key of the keypad that types none, since the keypad isn't switched to digits.
+// Nothing for a key that is pressed with another one.
+std::optional<char> digitOfKeypad(const QKeyEvent& event);
+
 // The digit of a key in the row above the letters, where that key by itself types one of the signs
 // that Slovak and Czech keyboards have there (+ ľ š č ť ž ý á í é, + ě š č ř ž ý á í é). Nothing
 // for a key that is pressed with another one, and for all other keys and layouts.

@@ -79,12 +79,11 @@ Dialogs::Answer QtDialogs::message(const MessageBox& box) {
   window->setText(unixLines(box.text));
   makeRoomForTabs(*window);
   window->setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
+  if (asks && box.isNoPreset) window->setDefaultButton(QMessageBox::No);
   window->setWindowModality(Qt::ApplicationModal);
   growWhenMaximised(*window);
 
-  heldKeys_.boxOpened();
   const int pressed = window->exec();
-  heldKeys_.boxClosed();
   delete window;
   if (!asks) return Answer::ok;
   return pressed == QMessageBox::Yes ? Answer::yes : Answer::no;
@@ -103,9 +102,7 @@ std::optional<std::string> QtDialogs::input(const std::string& title, const std:
   window->setWindowModality(Qt::ApplicationModal);
   growWhenMaximised(*window);
 
-  heldKeys_.boxOpened();
   const bool accepted = window->exec() == QDialog::Accepted;
-  heldKeys_.boxClosed();
   std::optional<std::string> entered;
   if (accepted && !window.isNull()) entered = window->textValue().toStdString();
   delete window;

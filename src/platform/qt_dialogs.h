@@ -1,7 +1,6 @@
 #pragma once
 
 #include "platform/dialogs.h"
-#include "platform/held_keys.h"
 
 namespace ratanka {
 
@@ -20,7 +19,6 @@ class QtDialogs : public Dialogs {
   void speakSlovak();
 
   const Forms& forms_;
-  HeldKeys heldKeys_;
   bool speaksSlovak_ = false;
 };
 

@@ -62,6 +62,7 @@ void frmPlayer1::build() {
                           .place = {5640, 240, 480, 420},
                           .type = {.family = "Comic Sans MS", .points = 18, .bold = true},
                           .fore = kWhite,
+                          .rim = kInkColour,  // it stands on the half-way line
                           .align = Qt::AlignHCenter});
   lblDirection_->hide();
   for (QWidget* const beneathThePieces : {static_cast<QWidget*>(lblOpponent_), opponentPortrait_}) {

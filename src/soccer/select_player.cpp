@@ -85,7 +85,7 @@ void frmSelectPlayer::picOpponent_MouseMove(int index) {
   box.raise();
   box.resize(box.width(), pixels(kRaisedHeight));
   for (QLabel* const name : lblName_) name->raise();
-  client().update();
+  for (QWidget* const each : picOpponent_) each->update();  // one border at a time
 }
 
 void frmSelectPlayer::picOpponent_MouseUp(int index) {

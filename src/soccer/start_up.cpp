@@ -103,6 +103,7 @@ void frmStartUp::buildButtons() {
   cmd2Player->setAccessibleName("Hra: 2 hráči proti sebe");
   on(cmd1Player, &Button::clicked, [this] { cmd1Player_Click(); });
   on(cmd2Player, &Button::clicked, [this] { cmd2Player_Click(); });
+  cmd1Player_ = cmd1Player;
   cmd2Player_ = cmd2Player;
 }
 
@@ -126,6 +127,9 @@ void frmStartUp::buildTitle() {
   imgEnd->setCursor(Qt::PointingHandCursor);
   on(new Clicks(*imgEnd), &Clicks::clicked, [this] { imgEnd_Click(); });
 }
+
+// Who comes back from a match by Esc and presses it once more stays in the program.
+void frmStartUp::Form_Activate() { cmd1Player_->setFocus(); }
 
 void frmStartUp::Form_KeyDown(int keyCode) {
   // The two buttons differ: Esc on this one ends everything at once.

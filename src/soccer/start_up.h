@@ -14,6 +14,7 @@ class frmStartUp : public Form {
  protected:
   void build() override;
   void Form_Unload() override;
+  void Form_Activate() override;
   void Form_KeyDown(int keyCode) override;
 
  private:
@@ -24,6 +25,7 @@ class frmStartUp : public Form {
   void cmd2Player_Click();
   void imgEnd_Click();
 
+  QPushButton* cmd1Player_ = nullptr;
   QPushButton* cmd2Player_ = nullptr;
 };
 

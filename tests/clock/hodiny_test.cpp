@@ -73,6 +73,7 @@ TEST_F(HodinyTest, AsksBeforeItHidesAndCountsOnMeanwhile) {
   click(face());
   settle();
   EXPECT_EQ(dialogs.shown.back().text, "Schovať hodiny?");
+  EXPECT_TRUE(dialogs.shown.back().isNoPreset);
   EXPECT_EQ(counters(), "0 0 5 ");
   dialogs.expect(kQuestion, {}, Dialogs::Answer::yes);
   QTest::mouseClick(face(), Qt::RightButton);

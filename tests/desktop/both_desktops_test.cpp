@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -88,8 +89,46 @@ TEST_P(EachDesktop, ACutCornerIsNotThere) {
 
   desktop.click(face.x, face.y);
   ASSERT_TRUE(waitForCount(kClock, 2));
-  desktop.key("Return");  // Yes
+  desktop.key("Return");  // No
+  ASSERT_TRUE(waitForCount(kClock, 1));
+  desktop.click(face.x, face.y);
+  ASSERT_TRUE(waitForCount(kClock, 2));
+  desktop.key("Tab Return");  // Yes
   EXPECT_TRUE(desktop.waitUntilGone(kClock));
+}
+
+// Shells that start a program after the other, twice as many as there are cores.
+class BusyMachine {
+ public:
+  BusyMachine() {
+    for (pid_t& shell : shells_) {
+      shell = start({.words = {"sh", "-c", "while :; do /bin/true; done"}});
+    }
+  }
+  ~BusyMachine() {
+    for (const pid_t shell : shells_) end(shell);
+  }
+  BusyMachine(const BusyMachine&) = delete;
+  BusyMachine& operator=(const BusyMachine&) = delete;
+
+ private:
+  std::array<pid_t, 4> shells_{};
+};
+
+TEST_P(EachDesktop, AnEnterThatIsHeldOnABusyMachineAnswersOneRow) {
+  clickMenu(desktop, 0);
+  ASSERT_TRUE(desktop.waitForActive(kSheet));
+  TwisterRandom random;
+  const sheets::Examples examples = sheets::malá::ShowStart(random);
+  const BusyMachine busy;
+  for (int row = 1; row <= 4; ++row) {
+    desktop.xdotool("type " +
+                    std::to_string(examples.at(static_cast<std::size_t>(row) - 1).Výsledok));
+    desktop.xdotool("keydown Return sleep 1.3 keyup Return");
+    ASSERT_TRUE(waitForTick(row)) << "row " << row;
+    pause(300);
+    ASSERT_FALSE(desktop.hasWindow(kEmptyBox)) << "row " << row;
+  }
 }
 
 constexpr auto kBlocks = "Rátanka - hra TETRIS";

@@ -11,8 +11,9 @@ namespace ratanka {
 namespace {
 
 TEST(KeyCodes, AreTheSystems) {
-  const auto code = [](Qt::Key key, quint32 scanCode = 0) {
-    return keyCode(QKeyEvent(QEvent::KeyPress, key, Qt::NoModifier, scanCode, 0, 0));
+  const auto code = [](Qt::Key key, quint32 scanCode = 0,
+                       Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    return keyCode(QKeyEvent(QEvent::KeyPress, key, modifiers, scanCode, 0, 0));
   };
   EXPECT_EQ(code(Qt::Key_Return), 13);
   EXPECT_EQ(code(Qt::Key_Enter), 13);
@@ -25,6 +26,8 @@ TEST(KeyCodes, AreTheSystems) {
   EXPECT_EQ(code(Qt::Key_Ocircumflex, 47), 186) << "the place of ; on a Slovak keyboard";
   EXPECT_EQ(code(Qt::Key_Minus, 61), 191) << "the place of / on a Slovak keyboard";
   EXPECT_EQ(code(Qt::Key_VolumeUp), key::kNone);
+  EXPECT_EQ(code(Qt::Key_Slash, 106, Qt::KeypadModifier), key::kNone);
+  EXPECT_EQ(code(Qt::Key_Left, 83, Qt::KeypadModifier), key::kLeft);
 }
 
 TEST(DigitRow, TypesDigitsOnSlovakAndCzechKeyboardsAlone) {
@@ -51,6 +54,25 @@ TEST(DigitRow, TypesDigitsOnSlovakAndCzechKeyboardsAlone) {
   QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, 15, 0, 0, "ž");
   QCoreApplication::sendEvent(&box, &press);
   EXPECT_EQ(box.text(), "6");
+}
+
+TEST(Keypad, TypesDigitsHoweverItIsSwitched) {
+  constexpr quint32 kPlaces[] = {90, 87, 88, 89, 83, 84, 85, 79, 80, 81};
+  constexpr int kKeys[] = {Qt::Key_Insert, Qt::Key_End,   Qt::Key_Down,  Qt::Key_PageDown,
+                           Qt::Key_Left,   Qt::Key_Clear, Qt::Key_Right, Qt::Key_Home,
+                           Qt::Key_Up,     Qt::Key_PageUp};
+  TextBox box;
+  const auto press = [&](quint32 place, int key, Qt::KeyboardModifiers modifiers) {
+    QKeyEvent event(QEvent::KeyPress, key, modifiers, place, 0, 0);
+    QCoreApplication::sendEvent(&box, &event);
+  };
+  for (std::size_t digit = 0; digit < 10; ++digit) {
+    press(kPlaces[digit], kKeys[digit], Qt::KeypadModifier);
+  }
+  press(82, Qt::Key_Minus, Qt::KeypadModifier | Qt::ShiftModifier);
+  press(113, Qt::Key_Left, Qt::NoModifier);  // an arrow of its own
+  EXPECT_EQ(box.text(), "0123456789");
+  EXPECT_EQ(box.cursorPosition(), 9);
 }
 
 TEST(Controls, StandWhereTheirTwipsSay) {

@@ -45,11 +45,9 @@ class Hands {
     down_.insert(key);
     send(QEvent::KeyPress, key, modifiers, typed, false);
   }
-  // X11 breaks a repeat into a release and a press where the keyboard changes windows.
-  void repeat(int key, bool isBroken) {
-    send(QEvent::KeyRelease, key, {}, {}, !isBroken);
-    keyTime_ -= isBroken ? 1 : 0;
-    send(QEvent::KeyPress, key, {}, {}, !isBroken);
+  void repeat(int key) {
+    send(QEvent::KeyRelease, key, {}, {}, true);
+    send(QEvent::KeyPress, key, {}, {}, true);
   }
   void release(int key, Qt::KeyboardModifiers modifiers = {}) {
     down_.erase(key);

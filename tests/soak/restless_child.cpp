@@ -219,7 +219,7 @@ class RestlessChild : public QObject {
       const std::vector<int> down(hands_.down().begin(), hands_.down().end());
       const int key = oneOf(down);
       if (how < 85) hands_.release(key);
-      if (how >= 85) hands_.repeat(key, happens(20));
+      if (how >= 85) hands_.repeat(key);
     }
   }
 

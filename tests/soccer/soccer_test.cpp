@@ -132,8 +132,6 @@ TEST_F(SoccerTest, AnEscThatIsHeldForTheMatchDoesNotEndTheProgramOnTheTitle) {
   activate(*window(kTitle));
   control<QPushButton>(kTitle, "cmd2Player")->setFocus();
   sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, true, 2);
-  sendKey(QEvent::KeyRelease, Qt::Key_Escape, 9, false, 3);
-  sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 3);  // a broken repeat
   EXPECT_FALSE(forms.isEnding());
   sendKey(QEvent::KeyRelease, Qt::Key_Escape, 9, false, 4);
   sendKey(QEvent::KeyPress, Qt::Key_Escape, 9, false, 5);
@@ -257,10 +255,12 @@ TEST_F(SoccerTest, TheChosenOpponentPlaysAndIsNamed) {
 
 TEST_F(SoccerTest, TheChoiceLiftsThePictureUnderThePointerAndEscGoesBack) {
   startOne([] {
-    for (const int opponent : {2, 4}) {
-      QTest::mouseMove(picture(opponent), {30, 30});
-      settle();
-    }
+    QTest::mouseMove(picture(2), {30, 30});
+    settle();
+    const Paints leftPicture(*picture(2));
+    QTest::mouseMove(picture(4), {30, 30});
+    settle();
+    EXPECT_GT(leftPicture.count, 0) << "its border stays";
     for (const int opponent : {1, 2, 3, 4, 5}) {
       EXPECT_EQ(picture(opponent)->height(), opponent % 2 == 0 ? 101 : 96);
     }
