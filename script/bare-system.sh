@@ -26,8 +26,14 @@ alone() {
   [ "$(id -u)" -eq 0 ] || asRoot=(sudo)
   # shellcheck disable=SC2016  # the words are the second shell's
   exec "${asRoot[@]}" env ${CXXFLAGS:+"CXXFLAGS=$CXXFLAGS"} bash -c '
-    export BARE_SYSTEM_SCRATCH=$(mktemp -d)
-    trap "kill \$script \$network 2>/dev/null; wait; rm -rf --one-file-system $BARE_SYSTEM_SCRATCH" EXIT
+    BARE_SYSTEM_SCRATCH=$(mktemp -d -p /var/tmp) || exit  # where device files may be, unlike /tmp
+    export BARE_SYSTEM_SCRATCH
+    cleanUp() {
+      kill -KILL $script $network  # unshare hears no other signal; all that it holds goes with it
+      wait
+      rm -rf --one-file-system "$BARE_SYSTEM_SCRATCH"
+    }
+    trap "cleanUp 2>/dev/null" EXIT
     trap "exit 143" INT TERM HUP
     unshare --net --uts --mount --pid --fork --mount-proc --kill-child "$0" "$@" &
     script=$!
@@ -58,6 +64,8 @@ aptInside() {
   fail "apt-get $*"
 }
 
+isSuite() { [[ $1 == bookworm || $1 == trixie ]]; }
+
 # Ends the script where the mirror is the cause of what failed.
 giveUpWithoutMirror() {
   local try
@@ -86,8 +94,12 @@ makeBareSystem() {
   for try in 1 2 3; do
     debootstrap --variant=minbase "$suite" "$root" "$mirror" >"$scratch/debootstrap" 2>&1 && break
     rm -rf --one-file-system "$root"
-    [ "$try" -lt 3 ] || { tail -3 "$scratch/debootstrap" >&2
-      echo "$me: THE MIRROR GAVE NO ANSWER" >&2; exit $no_mirror; }
+    [ "$try" -eq 3 ] || continue
+    tail -n 3 "$scratch/debootstrap" >&2
+    grep -qE "^E: (Failed getting release file|Couldn't download)" "$scratch/debootstrap" ||
+      fail "debootstrap"
+    echo "$me: THE MIRROR GAVE NO ANSWER" >&2
+    exit $no_mirror
   done
   apt-config dump | grep -E '^Acquire::(http|https|Check)' \
     >"$root/etc/apt/apt.conf.d/90machine" || true
@@ -108,10 +120,12 @@ makeBareSystem() {
 startDisplay() {
   local number
   mkfifo "$scratch/number"
-  mkdir -p "$root/tmp/.X11-unix" /tmp/.X11-unix "$scratch/frame"
+  mkdir -p "$root/tmp/.X11-unix" "$scratch/frame"
+  [ -d /tmp/.X11-unix ] || mkdir -m 1777 /tmp/.X11-unix
   mount -t tmpfs tmpfs /tmp/.X11-unix
   mount --bind /tmp/.X11-unix "$root/tmp/.X11-unix"
-  Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset -ac -fbdir "$scratch/frame" \
+  # Without a lock in the machine's own folder: nobody else is in this network.
+  Xvfb -displayfd 3 -nolock -screen 0 1024x768x24 -nolisten tcp -noreset -ac -fbdir "$scratch/frame" \
     3>"$scratch/number" 2>"$scratch/errors" &
   read -r -t 20 number <"$scratch/number" || fail "no display: $(cat "$scratch/errors")"
   export DISPLAY=:$number

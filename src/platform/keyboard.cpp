@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScopedValueRollback>
 #include <QWindow>
 // A member of one of its structures has a name that is C++'s own.
 #define explicit explicit_
@@ -13,11 +14,16 @@
 namespace ratanka {
 namespace {
 
-// Between two events of a held key, ms: more than any desktop waits before the first repeat. A key
-// that was seen to go down longer ago came up unseen.
+// Between two events of a held key, ms: more than desktops wait before the first repeat unless they
+// are told to. Where the keyboard has changed windows since, a key that was seen to go down longer
+// ago came up unseen.
 constexpr quint64 kLongestWait = 1200;
 
-bool isModifier(int key) { return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock; }
+// Keys that don't repeat, and let the one that does go on.
+bool isModifier(int key) {
+  return (key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock) || key == Qt::Key_AltGr ||
+         key == Qt::Key_Super_L || key == Qt::Key_Super_R || key == Qt::Key_Menu;
+}
 
 // Which key of the keyboard it is, whatever it types.
 quint32 placeOf(const QKeyEvent& event) {
@@ -25,10 +31,11 @@ quint32 placeOf(const QKeyEvent& event) {
   return scanCode != 0 ? scanCode : static_cast<quint32>(event.key());
 }
 
-// The toolkit has asked for the extension.
 Keyboard::Repeats askForDetectableRepeat() {
   const auto* const x11 = qApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr || x11->connection() == nullptr) return Keyboard::Repeats::marked;
+  const auto* const extension = xcb_get_extension_data(x11->connection(), &xcb_xkb_id);
+  if (extension == nullptr || extension->present == 0) return Keyboard::Repeats::marked;
   constexpr auto kDetectable = XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT;
   const auto asked = xcb_xkb_per_client_flags(x11->connection(), XCB_XKB_ID_USE_CORE_KBD,
                                               kDetectable, kDetectable, 0, 0, 0);
@@ -42,6 +49,13 @@ Keyboard::Keyboard() : Keyboard(askForDetectableRepeat()) {}
 
 Keyboard::Keyboard(Repeats repeats) : repeats_(repeats) {
   QCoreApplication::instance()->installEventFilter(this);
+  if (repeats == Repeats::unmarked) QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+Keyboard::~Keyboard() {
+  if (auto* const application = QCoreApplication::instance()) {
+    application->removeNativeEventFilter(this);
+  }
 }
 
 int Keyboard::codeOf(const QKeyEvent& event) const {
@@ -64,7 +78,19 @@ bool Keyboard::isRepeat(const QKeyEvent& event) const {
   if (repeats_ == Repeats::marked || found == down_.end() || place != lastDown_) return false;
   const Key& key = found->second;
   const bool isAsAnnounced = key.isAnnounced && event.timestamp() == key.time;
-  return !isAsAnnounced && event.timestamp() - key.time <= kLongestWait;
+  if (key.isUp || isAsAnnounced) return false;
+  const bool isAtHome =
+      !key.isLetGo && key.window != nullptr && key.window == QGuiApplication::focusWindow();
+  return isAtHome || event.timestamp() - key.time <= kLongestWait;
+}
+
+bool Keyboard::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
+  if (type != "xcb_generic_event_t") return false;
+  const auto* const event = static_cast<const xcb_key_release_event_t*>(message);
+  if ((event->response_type & 0x7f) != XCB_KEY_RELEASE) return false;
+  const auto found = down_.find(event->detail);
+  if (found != down_.end()) found->second.isUp = true;
+  return false;
 }
 
 void Keyboard::keep(QObject* window, const QKeyEvent& event, bool isAnnounced) {
@@ -103,7 +129,7 @@ bool Keyboard::swallowsPress(QObject& window, const QKeyEvent& event) {
                    event.nativeVirtualKey(), event.nativeModifiers(), event.text(), true,
                    static_cast<quint16>(event.count()), event.device());
   repeat.setTimestamp(event.timestamp());
-  marked_ = &repeat;
+  const QScopedValueRollback<const QEvent*> marking(marked_, &repeat);
   QCoreApplication::sendEvent(&window, &repeat);
   return true;
 }
@@ -111,7 +137,10 @@ bool Keyboard::swallowsPress(QObject& window, const QKeyEvent& event) {
 bool Keyboard::swallowsRelease(const QObject& window, const QKeyEvent& event) {
   const quint32 place = placeOf(event);
   const auto found = down_.find(place);
-  if (found == down_.end()) return event.isAutoRepeat();
+  if (found == down_.end()) {
+    lastUp_ = 0;
+    return event.isAutoRepeat();
+  }
   const bool isForeign = found->second.window != &window;
   if (event.isAutoRepeat()) return isForeign || found->second.isLetGo;
   lastUp_ = place;

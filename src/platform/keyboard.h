@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QObject>
 #include <QPointer>
 #include <map>
@@ -15,13 +16,14 @@ namespace ratanka {
 //
 // On X11 it has the server tell of a key that is held by its presses alone, without the releases
 // between them that a busy machine would take for real ones, and marks those presses as repeats.
-class Keyboard : public QObject {
+class Keyboard : public QObject, private QAbstractNativeEventFilter {
  public:
   // Whether the window system says of a press that it is a repeat. X11 is asked not to.
   enum class Repeats { marked, unmarked };
 
   Keyboard();
   explicit Keyboard(Repeats repeats);
+  ~Keyboard() override;
 
   // The system's code (platform/keys.h) that the key of this press or release went down as: Shift
   // and AltGr may have come or gone meanwhile. Of a key that went down unseen: its code now.
@@ -40,8 +42,12 @@ class Keyboard : public QObject {
     int code = 0;
     quint64 time = 0;  // ms, of its last press or repeat
     bool isLetGo = false;
+    bool isUp = false;         // though the toolkit may have nobody to tell it to
     bool isAnnounced = false;  // asked of menus first: the press itself may be yet to come
   };
+
+  // X11: sees each release that reaches the program.
+  bool nativeEventFilter(const QByteArray& type, void* message, qintptr* result) override;
 
   bool isRepeat(const QKeyEvent& event) const;
   void keep(QObject* window, const QKeyEvent& event, bool isAnnounced);

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <array>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "desktop/processes.h"
@@ -101,8 +101,8 @@ TEST_P(EachDesktop, ACutCornerIsNotThere) {
 class BusyMachine {
  public:
   BusyMachine() {
-    for (pid_t& shell : shells_) {
-      shell = start({.words = {"sh", "-c", "while :; do /bin/true; done"}});
+    for (unsigned shell = 0; shell < 2 * std::thread::hardware_concurrency(); ++shell) {
+      shells_.push_back(start({.words = {"sh", "-c", "while :; do /bin/true; done"}}));
     }
   }
   ~BusyMachine() {
@@ -112,7 +112,7 @@ class BusyMachine {
   BusyMachine& operator=(const BusyMachine&) = delete;
 
  private:
-  std::array<pid_t, 4> shells_{};
+  std::vector<pid_t> shells_;
 };
 
 TEST_P(EachDesktop, AnEnterThatIsHeldOnABusyMachineAnswersOneRow) {
