@@ -5,6 +5,9 @@
 #include <QScopedValueRollback>
 #include <QWindow>
 // A member of one of its structures has a name that is C++'s own.
+#ifdef __clang__
+#pragma clang diagnostic ignored "-Wkeyword-macro"
+#endif
 #define explicit explicit_
 #include <xcb/xkb.h>
 #undef explicit
