@@ -7,6 +7,7 @@
 #include <thread>
 
 #include "desktop/home.h"
+#include "desktop/processes.h"
 #include "desktop/reward.h"
 #include "platform/twister_random.h"
 #include "sheets/rules/chains.h"
@@ -249,8 +250,11 @@ TEST(Puzzle, ASolvedBoardComesIntoTheListAndStaysThere) {
     desktop.xdotool("type Janka");
     desktop.key("Return");
     ASSERT_TRUE(desktop.waitUntilGone(kList));
-    const std::string stored = home.read("Rátanka - hra Pucle.ini");
-    EXPECT_NE(stored.find("Janka"), std::string::npos) << stored;
+    std::string stored;  // the name comes after the time, once the box is gone
+    EXPECT_TRUE(waitFor([&] {
+      stored = home.read("Rátanka - hra Pucle.ini");
+      return stored.find("Janka") != std::string::npos;
+    })) << stored;
   }
 }
 
