@@ -15,7 +15,7 @@ namespace {
 constexpr int kNothingSeen = 500;  // events without a window while the program runs
 constexpr std::size_t kTicking = 100;
 constexpr int kTopLevels = 250;
-constexpr std::int64_t kAllForms = 20'000;  // events in which each form comes up
+constexpr std::int64_t kAllForms = 100'000;  // events in which each form comes up
 // From the first tenth to the last, in MB: the toolkit's cache of pictures fills to 10 and stays
 // there.
 constexpr double kGrowth = 16;
