@@ -138,6 +138,17 @@ TEST_F(SoccerTest, AnEscThatIsHeldForTheMatchDoesNotEndTheProgramOnTheTitle) {
   EXPECT_TRUE(forms.isEnding());
 }
 
+TEST_F(SoccerTest, ASecondEscAfterAMatchDoesNotEndTheProgram) {
+  startTwo();
+  control<QPushButton>(kTitle, "cmd2Player")->setFocus();
+  activate(*window(kTwo));
+  strike(Qt::Key_Escape);
+  settle();
+  activate(*window(kTitle));
+  strike(Qt::Key_Escape);
+  EXPECT_FALSE(forms.isEnding());
+}
+
 TEST_F(SoccerTest, APauseFreezesAllAndANewMatchInItRunsThoughTheMenuGoesOnSayingPause) {
   startTwo();
   choose(kTwo, "mnuPause");
