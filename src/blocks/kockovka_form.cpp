@@ -36,7 +36,8 @@ frmKockovka::frmKockovka(Forms& forms, const Clock& clock, Random& random, Sound
                    .height = 4650,
                    .picture = "blocks-night",
                    .pictureSize = {296, 310},
-                   .hasMenu = true}),
+                   .hasMenu = true,
+                   .opening = Opening::besideControls}),
       sound_(sound),
       game_(options, *this, clock, random) {}
 

@@ -70,8 +70,7 @@ void frmOptions::Form_Activate() {
   isOpen_ = true;
   isCheckDue_ = false;
   txtStartingLevel_->setText(ratanka::text(options_.startingLevelText()));
-  txtStartingLevel_->setFocus();
-  txtStartingLevel_->selectAll();
+  cmdOk_->setFocus();  // not the level, which may be empty: leaving it so would bring its box
   chkFillLines_->setChecked(options_.fillsLines());
   chkPlaySounds_->setChecked(options_.playsSounds());
 }

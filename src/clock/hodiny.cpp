@@ -24,7 +24,8 @@ Hodiny::Hodiny(Forms& forms, Dialogs& dialogs, const Clock& clock, SettingsStore
                    .height = twips(kPicture.height),
                    .hasBorder = false,
                    .back = kInkColour,
-                   .takesKeyboard = false}),
+                   .takesKeyboard = false,
+                   .opening = Opening::unhidden}),
       dialogs_(dialogs),
       clock_(clock),
       settings_(settings) {}

@@ -61,7 +61,8 @@ Bludisko::Bludisko(Forms& forms, Dialogs& dialogs, const Clock& clock, std::stri
     : Form(forms, {.name = names::Bludisko,
                    .caption = "Rátanka - hra Bludisko",
                    .width = 4800,
-                   .height = 3600}),
+                   .height = 3600,
+                   .opening = Opening::besideControls}),
       dialogs_(dialogs),
       clock_(clock),
       file_(std::move(file)) {}

@@ -35,7 +35,8 @@ Klavír::Klavír(Forms& forms, Dialogs& dialogs, MidiOut& midiOut)
                    .height = 3285,
                    .back = kBack,
                    .hasMenu = true,
-                   .canMinimise = false}),
+                   .canMinimise = false,
+                   .opening = Opening::besideControls}),
       dialogs_(dialogs),
       piano_(midiOut) {}
 

@@ -21,6 +21,19 @@ constexpr int kLineWidth = 4;
 constexpr std::array kCellLefts{240, 1080, 1800};
 constexpr std::array kCellTops{120, 960, 1800};
 
+// Where each mark's middle stands in the window, in logical pixels: on the strokes that may cross
+// it, or within three pixels of them. Those of the last cell don't meet: there it is the point
+// nearest to all three.
+constexpr std::array<ScreenPoint, kCells> kMiddles{{{27, 27},
+                                                    {83, 27},
+                                                    {131, 27},
+                                                    {27, 83},
+                                                    {82, 82},
+                                                    {131, 83},
+                                                    {23, 141},
+                                                    {83, 141},
+                                                    {133, 139}}};
+
 struct Stroke {
   int x1, y1, x2, y2;  // twips
 };
@@ -56,7 +69,8 @@ Piškôrky::Piškôrky(Forms& forms, Dialogs& dialogs, Random& random)
                    .caption = "Piškôrky",
                    .width = 4200,
                    .height = 2595,
-                   .back = kBlack}),
+                   .back = kBlack,
+                   .opening = Opening::besideControls}),
       dialogs_(dialogs),
       random_(random) {}
 
@@ -68,15 +82,17 @@ void Piškôrky::build() {
 
 void Piškôrky::buildBoard() {
   for (int index = 0; index < kCells; ++index) {
-    const auto column = static_cast<std::size_t>(index % 3);
-    const auto row = static_cast<std::size_t>(index / 3);
+    const int left = kCellLefts.at(static_cast<std::size_t>(index % 3));
+    const int top = kCellTops.at(static_cast<std::size_t>(index / 3));
+    const ScreenPoint& middle = kMiddles.at(static_cast<std::size_t>(index));
     QLabel* const cell =
         addLabel(client(), {.name = indexed("s", index),
-                            .place = {kCellLefts.at(column), kCellTops.at(row), 615, 615},
+                            .place = {left, top, 615, 615},
                             .type = {.points = 24},
                             .fore = kBlue,
                             .back = kBlack,
                             .rim = kChalk,
+                            .middle = ScreenPoint{middle.x - pixels(left), middle.y - pixels(top)},
                             .align = Qt::AlignCenter});
     on(new Clicks(*cell), &Clicks::clicked, [this, index] { s_Click(index); });
     s_.at(static_cast<std::size_t>(index)) = cell;

@@ -1,16 +1,19 @@
 #include "platform/application.h"
 
 #include <langinfo.h>
+#include <unistd.h>
 
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
+#include <QScreen>
 #include <QStyleOption>
 #include <QTimer>
 #include <clocale>
 #include <string_view>
 
 #include "platform/controls.h"
+#include "platform/desktop.h"
 #include "platform/fonts.h"
 #include "platform/pictures.h"
 
@@ -117,12 +120,29 @@ int Application::argumentCount_ = 1;
 
 Application::Application(char* program)
     : arguments_{withToolkitSetUp(program), nullptr}, application_(argumentCount_, arguments_) {
+  stayOnScreen();
   QApplication::setApplicationName("ratanka");
   QApplication::setApplicationVersion(RATANKA_VERSION);
   QApplication::setDesktopFileName("ratanka");
   QApplication::setQuitOnLastWindowClosed(false);
   QApplication::setPalette(ourPalette());
   QApplication::setFont(font({.points = 9.75}));
+}
+
+void Application::stayOnScreen() {
+  constexpr auto kFactor = "QT_SCALE_FACTOR";
+  constexpr double kRounding = 0.01;
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  if (QGuiApplication::platformName() != "xcb" || screen == nullptr) return;
+  const double wanted = screen->devicePixelRatio();
+  const QSizeF area = QSizeF(screen->availableSize()) * wanted;
+  const double fitting = fittingMagnification(
+      wanted, {static_cast<int>(area.width()), static_cast<int>(area.height())});
+  if (wanted - fitting < kRounding) return;
+  const double own = qEnvironmentVariable(kFactor).toDouble();
+  const double factor = (own > 0 ? own : 1) * fitting / wanted;
+  qputenv(kFactor, QByteArray::number(factor, 'g', 10));
+  execv("/proc/self/exe", arguments_);
 }
 
 int Application::run(const std::function<void()>& start) {

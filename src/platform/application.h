@@ -16,6 +16,10 @@ class Application {
   int run(const std::function<void()>& start);
 
  private:
+  // Windows grow with the size of the desktop's texts, as long as they fit the screen. The toolkit
+  // hears of that before it starts: where it has grown too far the program starts anew.
+  void stayOnScreen();
+
   static int argumentCount_;
   char* arguments_[2];
   QApplication application_;

@@ -36,6 +36,14 @@ class RimmedLabel : public QLabel {
  public:
   RimmedLabel(QWidget* parent, const Rgb& rim) : QLabel(parent), rim_(colour(rim)) {}
 
+  // Within the place that the label has now.
+  void setMiddle(const ScreenPoint& middle) {
+    constexpr int kReach = 7;
+    middle_ = QPoint(middle.x + kReach, middle.y + kReach);
+    setGeometry(geometry().adjusted(-kReach, -kReach, kReach, kReach));
+    setContentsMargins(kReach, kReach, kReach, kReach);
+  }
+
  protected:
   void paintEvent(QPaintEvent*) override {
     const qreal rim = font().pixelSize() / 10.0;  // half of it lies beneath the letter
@@ -44,13 +52,14 @@ class RimmedLabel : public QLabel {
     const QRectF box = letters.boundingRect();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(QRectF(rect()).center() - box.center());
+    painter.translate((middle_ ? QPointF(*middle_) : QRectF(rect()).center()) - box.center());
     painter.strokePath(letters, QPen(rim_, rim, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.fillPath(letters, palette().windowText());
   }
 
  private:
   QColor rim_;
+  std::optional<QPoint> middle_;
 };
 
 QKeyEvent withEnterAsSpace(const QKeyEvent& event) {
@@ -71,6 +80,15 @@ class ComboBox : public QComboBox {
       event->ignore();
     }
   }
+};
+
+// Its whole line can be clicked, not its words alone.
+class CheckBox : public QCheckBox {
+ public:
+  using QCheckBox::QCheckBox;
+
+ protected:
+  bool hitButton(const QPoint& at) const override { return rect().contains(at); }
 };
 
 // Whether all of it could be on the screen at once. Only X11 tells where a window stands.
@@ -95,8 +113,10 @@ void setUp(QWidget& control, const QString& name, const Place& place) {
 }
 
 QLabel* addLabel(QWidget& form, const LabelDesign& design) {
-  auto* const label = design.rim ? new RimmedLabel(&form, *design.rim) : new QLabel(&form);
+  auto* const rimmed = design.rim ? new RimmedLabel(&form, *design.rim) : nullptr;
+  auto* const label = rimmed != nullptr ? rimmed : new QLabel(&form);
   setUp(*label, design.name, design.place);
+  if (rimmed != nullptr && design.middle) rimmed->setMiddle(*design.middle);
   label->setTextFormat(Qt::PlainText);
   label->setText(design.caption);
   label->setFont(font(design.type));
@@ -233,7 +253,9 @@ bool Clicks::eventFilter(QObject* watched, QEvent* event) {
   const bool isRelease = event->type() == QEvent::MouseButtonRelease;
   if (!isRelease && event->type() != QEvent::MouseButtonPress) return false;
   const QPoint at = static_cast<QMouseEvent*>(event)->position().toPoint();
-  if (isRelease && static_cast<QWidget*>(watched)->rect().contains(at)) emit clicked();
+  if (isRelease && static_cast<QWidget*>(watched)->contentsRect().contains(at)) {
+    emit clicked();
+  }
   return true;
 }
 
@@ -243,6 +265,12 @@ Canvas* addCanvas(QWidget& form, const CanvasDesign& design) {
   canvas->setAccessibleName(design.accessibleName);
   canvas->setAttribute(Qt::WA_OpaquePaintEvent, design.isOpaque);
   return canvas;
+}
+
+Button::Button(const QString& caption, QWidget* parent) : QPushButton(caption, parent) {
+  connect(this, &QPushButton::pressed, this, [this] {
+    if (!isInMousePress_) emit wentDown();
+  });
 }
 
 void Button::keyPressEvent(QKeyEvent* event) {
@@ -258,8 +286,10 @@ void Button::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void Button::mousePressEvent(QMouseEvent* event) {
-  emit mouseDown();
+  isInMousePress_ = true;
+  emit wentDown();
   if (isVisible()) QPushButton::mousePressEvent(event);
+  isInMousePress_ = false;
 }
 
 void Button::mouseMoveEvent(QMouseEvent* event) {
@@ -291,7 +321,7 @@ void setFace(Button& button, const Rgb& back) {
 }
 
 QCheckBox* addCheckBox(QWidget& form, const CheckBoxDesign& design) {
-  auto* const box = new QCheckBox(design.caption, &form);
+  auto* const box = new CheckBox(design.caption, &form);
   setUp(*box, design.name, design.place);
   return box;
 }

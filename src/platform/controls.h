@@ -36,6 +36,9 @@ struct LabelDesign {
   std::optional<Rgb> back{};  // none: what lies behind shows through
   // Round each letter, where what lies behind would swallow it; the text then stands in the middle.
   std::optional<Rgb> rim{};
+  // Of a rimmed text, in logical pixels from the place's corner; none: the place's own. The letters
+  // may reach over the edge a little.
+  std::optional<ScreenPoint> middle{};
   Qt::Alignment align = Qt::AlignLeft | Qt::AlignTop;
   QString tooltip{};
 };
@@ -152,19 +155,23 @@ class Button : public QPushButton {
   Q_OBJECT
 
  public:
-  using QPushButton::QPushButton;
+  Button(const QString& caption, QWidget* parent);
 
  signals:
   // The pointer moves over a shy button.
   void pointerMoved();
-  // Any mouse button goes down on it. A button that hides itself then isn't clicked.
-  void mouseDown();
+  // Any mouse button goes down on it, or it is pressed by a key or for a listener. A button that
+  // hides itself then isn't clicked.
+  void wentDown();
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void keyReleaseEvent(QKeyEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  bool isInMousePress_ = false;
 };
 
 struct ButtonDesign {

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QScreen>
 #include <QWidget>
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <memory>
@@ -35,6 +36,12 @@ int modeLength(int logicalPixels, double magnification) {
   return 2 * static_cast<int>(std::lround(length / 2));
 }
 
+double fittingMagnification(double wanted, PixelSize area) {
+  const double fitting = std::min(static_cast<double>(area.width) / kLargestWindow.width,
+                                  static_cast<double>(area.height) / kLargestWindow.height);
+  return wanted <= fitting ? wanted : std::max(1.0, std::floor(8 * fitting) / 8);
+}
+
 PixelSize PrimaryScreen::size() const {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return {};
@@ -42,6 +49,8 @@ PixelSize PrimaryScreen::size() const {
   return {modeLength(screen->geometry().width(), magnification),
           modeLength(screen->geometry().height(), magnification)};
 }
+
+bool isWayland() { return QGuiApplication::platformName().startsWith("wayland"); }
 
 bool canDrawTranslucentWindows() {
   // Every other window system that we run on does.

@@ -24,6 +24,16 @@ class PrimaryScreen : public Desktop {
 // the rounding exactly for magnifications up to 2.
 int modeLength(int logicalPixels, double magnification);
 
+// The largest of our windows, a match, with the frame that a manager draws, in logical pixels.
+inline constexpr PixelSize kLargestWindow{804, 612};
+
+// With how many pixels for a logical one, at least 1 and at most as many as wanted, in eighths
+// where it is less, the largest window fits an area of that many pixels.
+double fittingMagnification(double wanted, PixelSize area);
+
+// A program neither learns nor chooses there where its windows stand.
+bool isWayland();
+
 // Whether the desktop blends windows with what lies behind them.
 bool canDrawTranslucentWindows();
 

@@ -15,6 +15,7 @@ struct MessageBox {
   Icon icon = Icon::information;
   Buttons buttons = Buttons::ok;
   bool isNoPreset = false;  // of a question: Enter says no
+  bool isBeside = false;    // leaves the form that asks to be seen
 };
 
 // Boxes that stop the child until they are answered. Timers of the other forms run on meanwhile.

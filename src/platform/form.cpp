@@ -45,6 +45,7 @@ void Form::load() {
   build();
   window_->fitMenuBar();
   Form_Load();
+  if (isLoaded() && design_.opening == Opening::besideControls) window_->standBesideControls();
 }
 
 void Form::unload() {

@@ -19,6 +19,13 @@ class Forms;
 class FormWindow;
 class Timer;
 
+// Where a fresh window comes up, as far as the window system lets a program choose.
+enum class Opening {
+  byDesktop,
+  besideControls,  // where it hides least of the boxes and buttons of the form before it
+  unhidden,  // by the desktop, but not beneath the form before it where there is a better place
+};
+
 // A form's window as designed.
 struct FormDesign {
   FormName name;
@@ -33,6 +40,7 @@ struct FormDesign {
   bool hasMenu = false;  // a bar of menus above the client area
   bool canMinimise = true;
   bool isDialog = false;  // shown modally: stays before the others and can't be put away
+  Opening opening = Opening::byDesktop;
 };
 
 // One form of the program: its variables live in the object, its controls in a window that comes
@@ -71,6 +79,9 @@ class Form : public std::enable_shared_from_this<Form> {
   // form sees it before the control that has the keyboard does.
   virtual void Form_KeyDown(int /*keyCode*/) {}
   virtual void Form_KeyUp(int /*keyCode*/) {}
+  // The desktop is asked to close the window, by its close box or a key of the desktop's own. Not
+  // while the program waits at a box.
+  virtual void closeAsked() { unload(); }
   // Another window, or a menu, takes the keyboard: keys that are held now may come up unseen.
   virtual void keyboardLeaves() {}
 

@@ -1,19 +1,23 @@
 #include "platform/form_window.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QPainter>
+#include <QScreen>
 #include <QWindow>
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
-#include "platform/maximising.h"
+#include "platform/free_place.h"
 #include "platform/pictures.h"
 #include "platform/text.h"
+#include "platform/window_states.h"
 
 namespace ratanka {
 namespace {
@@ -46,6 +50,7 @@ FormWindow::FormWindow(Form& form, const FormDesign& design) : form_(&form), des
              Qt::WindowCloseButtonHint;
   }
   setWindowFlags(flags);
+  if (design.isDialog) comeBackWhenPutAway(*this);
   setAttribute(Qt::WA_ShowWithoutActivating, !design.takesKeyboard);
   setFixedSize(pixels(design.width), pixels(design.height));
   setAttribute(Qt::WA_OpaquePaintEvent);
@@ -105,7 +110,35 @@ void FormWindow::cutTo(const QPolygon& outline) {
   outside_ = all - inside;
 }
 
+void FormWindow::standBesideControls() {
+  constexpr int kOfControls = 16;  // as much worth as so many pixels of the page
+  const FormWindow* const before = windowBefore();
+  if (before == nullptr || before == this || isWayland()) return;
+  const QRect page = before->geometry();
+  std::vector<Kept> kept{{page}};
+  for (const QWidget* const control : before->findChildren<QWidget*>()) {
+    const bool isUsed = qobject_cast<const QAbstractButton*>(control) != nullptr ||
+                        qobject_cast<const QLineEdit*>(control) != nullptr;
+    const QRect area(control->mapToGlobal(QPoint()), control->size());
+    if (isUsed && control->isVisible()) kept.push_back({area, kOfControls});
+  }
+  const QSize outer = withFrame(size());
+  const QPoint middle = page.center() - QRect({}, outer).center();
+  move(freePlace(outer, before->screen()->availableGeometry(), kept, middle));
+}
+
+// The desktop has found a place by now.
+void FormWindow::comeOut() {
+  const FormWindow* const before = windowBefore();
+  if (before == nullptr || before == this || isWayland()) return;
+  move(freePlace(size(), screen()->availableGeometry(), {{before->geometry()}}, pos()));
+}
+
 void FormWindow::paintEvent(QPaintEvent*) {
+  if (std::exchange(isFresh_, false) && design_.opening == Opening::unhidden) {
+    QMetaObject::invokeMethod(
+        this, [this] { comeOut(); }, Qt::QueuedConnection);
+  }
   QPainter painter(this);
   paintBackground(painter);
   if (outside_.isEmpty()) return;
@@ -128,9 +161,7 @@ void FormWindow::paintBackground(QPainter& painter) {
 void FormWindow::closeEvent(QCloseEvent* event) {
   // Closing is the form's to do: its window goes when its handlers have returned.
   event->ignore();
-  if (form_ == nullptr) return;
-  const Form::HandlerScope scope(*form_);
-  form_->unload();
+  tell(&Form::closeAsked);
 }
 
 void FormWindow::showEvent(QShowEvent*) {

@@ -31,6 +31,9 @@ class FormWindow : public QWidget {
   // Once the menus are there: the window grows by the height of their bar.
   void fitMenuBar();
 
+  // Before the window is first shown.
+  void standBesideControls();
+
   // Stops the child from using any other window of the program while this one is to be seen.
   void setModal(bool modal);
   void waitUntilHidden();
@@ -51,6 +54,7 @@ class FormWindow : public QWidget {
   void paintBackground(QPainter& painter);
   void tell(void (Form::*happening)());
   void giveKeyboardBack();
+  void comeOut();
   FormWindow* windowBefore() const;
 
   Form* form_;
@@ -60,6 +64,7 @@ class FormWindow : public QWidget {
   QEventLoop* waiting_ = nullptr;
   QPolygon outline_;            // empty where the window isn't cut
   QPainterPath outside_;        // what a smooth cut takes away; empty where there is none
+  bool isFresh_ = true;         // not painted yet
   std::optional<QPoint> grip_;  // where the window is held, while we move it
 };
 

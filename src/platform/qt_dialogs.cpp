@@ -1,16 +1,20 @@
 #include "platform/qt_dialogs.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLibraryInfo>
 #include <QMessageBox>
 #include <QPointer>
+#include <QScreen>
 #include <QTranslator>
 
+#include "platform/desktop.h"
 #include "platform/forms.h"
-#include "platform/maximising.h"
+#include "platform/free_place.h"
 #include "platform/text.h"
+#include "platform/window_states.h"
 
 namespace ratanka {
 namespace {
@@ -53,6 +57,30 @@ void makeRoomForTabs(QMessageBox& window) {
       label->fontMetrics().size(Qt::TextExpandTabs, window.text(), kTab).width() + kTab);
 }
 
+// The frame has a sign and buttons beside the title.
+int widthForTitle(const QDialog& window) {
+  constexpr int kSignAndButtons = 130;
+  QFont bold = window.font();
+  bold.setBold(true);
+  return QFontMetrics(bold).horizontalAdvance(window.windowTitle()) + kSignAndButtons;
+}
+
+// The toolkit gives the box the size of what stands in it.
+void makeRoomForTitle(QMessageBox& window) {
+  auto* const layout = qobject_cast<QGridLayout*>(window.layout());
+  if (layout == nullptr) return;
+  layout->addItem(new QSpacerItem(widthForTitle(window), 0), layout->rowCount(), 0, 1,
+                  layout->columnCount());
+}
+
+void standBeside(QDialog& window, const QWidget& form) {
+  if (isWayland()) return;
+  const QRect kept = form.frameGeometry();
+  const QSize outer = withFrame(window.sizeHint());
+  const QPoint middle = kept.center() - QRect({}, outer).center();
+  window.move(freePlace(outer, form.screen()->availableGeometry(), {{kept}}, middle));
+}
+
 }  // namespace
 
 void QtDialogs::speakSlovak() {
@@ -81,7 +109,12 @@ Dialogs::Answer QtDialogs::message(const MessageBox& box) {
   window->setStandardButtons(asks ? QMessageBox::Yes | QMessageBox::No : QMessageBox::Ok);
   if (asks && box.isNoPreset) window->setDefaultButton(QMessageBox::No);
   window->setWindowModality(Qt::ApplicationModal);
+  makeRoomForTitle(*window);
   growWhenMaximised(*window);
+  comeBackWhenPutAway(*window);
+  if (box.isBeside && window->parentWidget() != nullptr) {
+    standBeside(*window, *window->parentWidget());
+  }
 
   const int pressed = window->exec();
   delete window;
@@ -100,7 +133,9 @@ std::optional<std::string> QtDialogs::input(const std::string& title, const std:
   window->setLabelText(unixLines(prompt));
   window->setTextValue(text(preset));
   window->setWindowModality(Qt::ApplicationModal);
+  window->setMinimumWidth(widthForTitle(*window));
   growWhenMaximised(*window);
+  comeBackWhenPutAway(*window);
 
   const bool accepted = window->exec() == QDialog::Accepted;
   std::optional<std::string> entered;

@@ -32,7 +32,8 @@ frmPuzzle::frmPuzzle(Forms& forms, Dialogs& dialogs, Random& random, Sound& soun
                    .width = 4170,
                    .height = 5040,
                    .back = kYellow,
-                   .hasMenu = true}),
+                   .hasMenu = true,
+                   .opening = Opening::besideControls}),
       dialogs_(dialogs),
       random_(random),
       sound_(sound),
@@ -50,7 +51,7 @@ void frmPuzzle::buildBoard() {
   for (int index = 0; index < kButtons; ++index) {
     Button* const tile = addButton(
         client(), {.name = QString("cmdButton(%1)").arg(index), .place = {}, .visible = false});
-    on(tile, &Button::mouseDown, [this, index] { cmdButton_MouseDown(index); });
+    on(tile, &Button::wentDown, [this, index] { cmdButton_MouseDown(index); });
     cmdButton_.at(static_cast<std::size_t>(index)) = tile;
   }
 }

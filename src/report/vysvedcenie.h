@@ -18,6 +18,7 @@ class Vysvedčenie : public Form {
  protected:
   void build() override;
   void Form_Load() override;
+  void closeAsked() override { Command1_Click(); }
 
  private:
   void ShowVýsledok1();

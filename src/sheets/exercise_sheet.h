@@ -31,6 +31,7 @@ class ExerciseSheet : public Form {
   void build() override;
   void Form_Load() override;
   void Form_Unload() override;
+  void closeAsked() override { backToMenu(); }
 
  private:
   struct RowControls {

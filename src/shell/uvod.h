@@ -12,6 +12,8 @@ class Úvod : public Form {
  protected:
   void build() override;
   void Form_Load() override;
+  // The day ends with the card.
+  void closeAsked() override { Command6_Click(); }
 
  private:
   // A sheet whose form isn't made leaves the menu as it is.

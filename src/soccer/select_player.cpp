@@ -72,7 +72,10 @@ QWidget* frmSelectPlayer::addOpponent(int index, int left) {
 }
 
 void frmSelectPlayer::Form_KeyDown(int keyCode) {
-  if (keyCode != key::kEscape) return;
+  if (keyCode == key::kEscape) backToTitle();
+}
+
+void frmSelectPlayer::backToTitle() {
   forms().unload(names::frmSelectPlayer);
   forms().show(names::frmStartUp);
   forms().drop(names::frmSelectPlayer);

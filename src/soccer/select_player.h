@@ -21,8 +21,10 @@ class frmSelectPlayer : public Form {
   void build() override;
   void Form_Load() override { bordered_ = 0; }
   void Form_KeyDown(int keyCode) override;
+  void closeAsked() override { backToTitle(); }
 
  private:
+  void backToTitle();
   void picOpponent_MouseMove(int index);
   void picOpponent_MouseUp(int index);
   QWidget* addOpponent(int index, int left);

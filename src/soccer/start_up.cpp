@@ -60,7 +60,8 @@ frmStartUp::frmStartUp(Forms& forms)
                    .caption = "Mini futbal - hra len pre tých najlepších",
                    .width = 6240,
                    .height = 4560,
-                   .back = kBlack}) {}
+                   .back = kBlack,
+                   .opening = Opening::besideControls}) {}
 
 void frmStartUp::build() {
   buildControls();

@@ -76,6 +76,10 @@ class BlocksTest : public AllFormsTest {
     EXPECT_EQ(window(kDialog), nullptr);
   }
   static TextBox* level() { return control<TextBox>(kDialog, "txtStartingLevel"); }
+  static void typeLevel(const std::string& typed) {
+    level()->setFocus(Qt::TabFocusReason);
+    type(typed);
+  }
 
   HastyClock hasty;
 };
@@ -195,10 +199,11 @@ TEST_F(BlocksTest, OptionsAreTakenAndWritten) {
   openOptions([] {
     EXPECT_EQ(level()->text(), "4");
     EXPECT_TRUE(control<QCheckBox>(kDialog, "chkFillLines")->isChecked());
-    EXPECT_FALSE(control<QCheckBox>(kDialog, "chkPlaySounds")->isChecked());
-    type("2.5");
+    auto* const sounds = control<QCheckBox>(kDialog, "chkPlaySounds");
+    EXPECT_FALSE(sounds->isChecked());
+    typeLevel("2.5");
     click(control<QCheckBox>(kDialog, "chkFillLines"));
-    control<QCheckBox>(kDialog, "chkPlaySounds")->setChecked(true);
+    QTest::mouseClick(sounds, Qt::LeftButton, {}, {sounds->width() - 5, 5});  // right of its words
     click(control<Button>(kDialog, "cmdOk"));
   });
   EXPECT_EQ(options.StartingLevel, 2.5);
@@ -217,14 +222,16 @@ TEST_F(BlocksTest, ZrušiťAndEscChangeNothing) {
                control<Button>(kDialog, "Command1")->setFocus();
                strike(Qt::Key_Return);
              }}) {
-    openOptions([&way] {
-      type("3");
-      control<QCheckBox>(kDialog, "chkPlaySounds")->setChecked(true);
-      way();
-    });
-    EXPECT_FALSE(options.StartingLevel.has_value());
-    EXPECT_FALSE(options.PlaySounds.has_value());
-    EXPECT_FALSE(QFile::exists(settingsFile()));
+    for (const bool isLevelGiven : {true, false}) {
+      openOptions([&way, isLevelGiven] {
+        if (isLevelGiven) typeLevel("3");
+        click(control<QCheckBox>(kDialog, "chkPlaySounds"));
+        way();
+      });
+      EXPECT_FALSE(options.StartingLevel.has_value());
+      EXPECT_FALSE(options.PlaySounds.has_value());
+      EXPECT_FALSE(QFile::exists(settingsFile()));
+    }
   }
 }
 
@@ -249,7 +256,7 @@ TEST_F(BlocksTest, ABadLevelIsToldOnceAndTheOldOneComesBack) {
       dialogs.shown.clear();
       dialogs.expect("Rátanka - hra TETRIS");
       openOptions([&, typed = typed] {
-        type(typed);
+        typeLevel(typed);
         way();
       });
       ASSERT_EQ(dialogs.shown.size(), 1U);

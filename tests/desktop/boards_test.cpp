@@ -89,13 +89,13 @@ TEST(Blocks, AGameEndsByItselfAndItsOptionsAreRefusedAndTaken) {
 
   game.choose('n');
   ASSERT_TRUE(desktop.waitForActive("Konfigurácia TETRIS"));
-  desktop.key("1 2 Return");
+  desktop.key("Tab Tab 1 2 Return");
   ASSERT_TRUE(desktop.waitForActive(kBlocks));  // the box
   desktop.key("Return");
   ASSERT_TRUE(desktop.waitUntilGone("Konfigurácia TETRIS"));
   game.choose('n');
   ASSERT_TRUE(desktop.waitForActive("Konfigurácia TETRIS"));
-  desktop.key("2 comma 5 Tab space Return");
+  desktop.key("Tab Tab 2 comma 5 Tab space Return");
   ASSERT_TRUE(desktop.waitUntilGone("Konfigurácia TETRIS"));
   EXPECT_EQ(home.read("Kockovka32.ini"),
             "[Kockovka32]\nStarting Level=2.5\nFill Lines=True\nPlay Sounds=False\nHide Splash=\n");

@@ -176,7 +176,7 @@ TEST_P(EachDesktop, AGameIsEarnedItsMenusWorkAndTheCardEndsAll) {
   desktop.xdotool("keyup m keyup alt");
   desktop.key("n");
   ASSERT_TRUE(desktop.waitForActive(kOptions));
-  desktop.key("1 2 Return");
+  desktop.key("Tab Tab 1 2 Return");
   ASSERT_TRUE(waitForCount(kBlocks, 2));  // a box refuses
   desktop.key("Return");
   ASSERT_TRUE(desktop.waitUntilGone(kOptions));

@@ -24,8 +24,7 @@ sheets::Examples examplesOf(sheets::Examples (*show)(Random&)) {
 
 void endFromSheet(PrivateDesktop& desktop) {
   comeBackTo(desktop, kSheet);
-  desktop.key("alt+F4");
-  EXPECT_EQ(desktop.waitForEnd(), 0);
+  closeFrom(desktop, kSheet);
 }
 
 TEST(Faults, TwoCopiesWorkSideBySide) {
@@ -43,8 +42,11 @@ TEST(Faults, TwoCopiesWorkSideBySide) {
     ASSERT_TRUE(desktop.waitForActive(kNoNumber));
     desktop.key("Return");
     ASSERT_TRUE(desktop.waitForActive(kSheet));
-    desktop.key("alt+F4");
-    ASSERT_TRUE(desktop.waitUntilGone(kSheet));
+    for (const char* const window : {kSheet, kMenu, kCard}) {
+      ASSERT_TRUE(desktop.waitForActive(window));
+      desktop.key("alt+F4");
+      ASSERT_TRUE(waitFor([&] { return desktop.count(window) == (window == kMenu ? others : 0); }));
+    }
   }
   EXPECT_EQ(desktop.waitForEnd(), 0);
   EXPECT_EQ(home.content(kSaid), "");
@@ -66,7 +68,7 @@ TEST(Faults, OnAFullDiskSettingsStayAsTheyWere) {
   desktop.key("alt+m");
   desktop.key("n");
   ASSERT_TRUE(desktop.waitForActive(kOptions));
-  desktop.key("7 Return");
+  desktop.key("Tab Tab 7 Return");
   ASSERT_TRUE(desktop.waitUntilGone(kOptions));
   EXPECT_TRUE(desktop.waitForActive(kBlocks));
   EXPECT_TRUE(waitFor([&] {

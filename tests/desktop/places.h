@@ -33,6 +33,19 @@ inline void clickMenu(const PrivateDesktop& desktop, int button) {
   clickIn(desktop, kMenu, 50, 28 + 32 * button);
 }
 
+// Closes the windows from this one on as the desktop does: a sheet leads to the menu, the menu to
+// the card, and the card ends the program.
+inline void closeFrom(PrivateDesktop& desktop, const std::string& first) {
+  bool isReached = false;
+  for (const char* const window : {kSheet, kMenu, kCard}) {
+    isReached = isReached || window == first;
+    if (!isReached) continue;
+    ASSERT_TRUE(desktop.waitForActive(window));
+    desktop.key("alt+F4");
+  }
+  EXPECT_EQ(desktop.waitForEnd(), 0);
+}
+
 inline void answer(const PrivateDesktop& desktop, const std::string& text) {
   std::string keys = "key";
   for (const char digit : text) keys += std::string(" ") + digit;

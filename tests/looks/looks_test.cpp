@@ -1,12 +1,14 @@
 #include <QAbstractButton>
 #include <QImage>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
 #include <map>
 
 #include "all_forms.h"
+#include "platform/free_place.h"
 #include "platform/pictures.h"
 
 // What an eye needs of every window.
@@ -93,6 +95,31 @@ TEST_F(LooksTest, EveryTextIsEasyToRead) {
     if (name != names::Úvod) forms.drop(name);
   }
   for (const auto& [id, found] : weak) EXPECT_TRUE(isTold(id)) << id << ' ' << found;
+}
+
+TEST_F(LooksTest, WindowsKeepOutOfEachOthersWay) {
+  const QSize largest = QSize(kLargestWindow.width, kLargestWindow.height);
+  for (const FormName name : allSeenForms()) {
+    forms.show(name);
+    settle();
+    const QSize size = withFrame(window(name)->size());
+    EXPECT_EQ(size.boundedTo(largest), size) << name.text();
+    if (name != names::Úvod) forms.drop(name);
+  }
+  // A sheet of this screen of 800 x 800, and what comes up with it.
+  forms.show(names::Násobilka);
+  window(names::Hodiny)->move(280, 300);  // where some desktops put it
+  settle();
+  const QRect page = window(names::Násobilka)->geometry();
+  const QRect hidden = page & window(names::Hodiny)->geometry();
+  EXPECT_LT(hidden.width() * hidden.height(), 239 * 190 / 8);
+  forms.show(names::frmPuzzle);
+  settle();
+  const QRect game = window(names::frmPuzzle)->frameGeometry();
+  for (const auto* const box : window(names::Násobilka)->findChildren<QLineEdit*>()) {
+    EXPECT_FALSE(game.intersects({box->mapToGlobal(QPoint()), box->size()}))
+        << box->objectName().toStdString();
+  }
 }
 
 // Where a shaped window is cut its picture is drawn all over, and ends soon: pages bleed a little

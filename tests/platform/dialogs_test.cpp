@@ -75,6 +75,9 @@ TEST_F(DialogsTest, AMessageSpeaksSlovakAndTellsItsAnswer) {
     EXPECT_EQ(box.icon(), QMessageBox::Information);
     EXPECT_EQ(box.button(QMessageBox::Yes)->text().remove('&'), "Áno");
     EXPECT_EQ(box.button(QMessageBox::No)->text().remove('&'), "Nie");
+    box.showMinimized();  // can't be put away
+    settle();
+    EXPECT_FALSE(box.isMinimized());
     box.button(QMessageBox::Yes)->click();
   });
   EXPECT_EQ(boxes.message(question), Dialogs::Answer::yes);

@@ -10,6 +10,7 @@
 
 #include "platform/desktop.h"
 #include "platform/end_requests.h"
+#include "platform/free_place.h"
 #include "platform/ini_settings_store.h"
 #include "platform/qt_ticks.h"
 #include "platform/system_clock.h"
@@ -79,6 +80,37 @@ TEST(Screen, ModesComeOutInTheirOwnPixels) {
     }
   }
   EXPECT_EQ(modeLength(1023, 1), 1023);
+}
+
+TEST(Screen, WindowsGrowWithTheTextsAsLongAsTheyFit) {
+  const struct {
+    double wanted;
+    PixelSize area;
+    double found;
+  } cases[] = {{1, {640, 480}, 1},       {1.5, {640, 480}, 1},    {1.1, {1024, 768}, 1.1},
+               {1.5, {1024, 768}, 1.25}, {2, {1024, 740}, 1.125}, {1.5, {1280, 1024}, 1.5},
+               {2.5, {1280, 1024}, 1.5}};
+  for (const auto& [wanted, area, found] : cases) {
+    EXPECT_EQ(fittingMagnification(wanted, area), found) << wanted << " of " << area.width;
+  }
+}
+
+TEST(Screen, AFreePlaceHidesLeastAndIsNearTheWish) {
+  const QRect screen(0, 0, 1000, 800);
+  const QRect page(300, 100, 400, 600);
+  const struct {
+    QSize size;
+    std::vector<Kept> kept;
+    QPoint wish, found;
+  } cases[] = {{{200, 100}, {{page}}, {50, 350}, {50, 350}},    // hides nothing
+               {{200, 100}, {{page}}, {450, 350}, {700, 350}},  // beside
+               {{400, 100}, {{page}}, {310, 350}, {310, 0}},    // above
+               {{500, 700}, {{page}, {{600, 300, 50, 50}, 16}}, {250, 50}, {0, 50}},
+               {{500, 700}, {{page}, {{350, 300, 50, 50}, 16}}, {250, 50}, {500, 50}},
+               {{1200, 900}, {{page}}, {-100, -50}, {0, 0}}};
+  for (const auto& [size, kept, wish, found] : cases) {
+    EXPECT_EQ(freePlace(size, screen, kept, wish), found) << size.width();
+  }
 }
 
 TEST(SystemClock, SpeaksOfTheSameMoment) {

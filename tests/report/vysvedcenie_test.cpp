@@ -67,6 +67,17 @@ TEST_F(CardTest, ReadsEachSheetIntoItsLine) {
   EXPECT_EQ(marks(), "5432102");
 }
 
+TEST_F(CardTest, TheDesktopClosesTheMenuForTheCardAndTheCardForGood) {
+  forms.show(names::Úvod);
+  window(names::Úvod)->close();
+  settle();
+  EXPECT_EQ(window(names::Úvod), nullptr);
+  ASSERT_NE(window(names::Vysvedčenie), nullptr);
+  forms.show(names::Úvod);
+  window(names::Vysvedčenie)->close();
+  EXPECT_TRUE(forms.isEnding());
+}
+
 TEST_F(CardTest, ItsButtonEndsTheProgramFromAnyState) {
   forms.show(names::Úvod);
   forms.show(names::Vysvedčenie);

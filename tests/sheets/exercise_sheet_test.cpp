@@ -194,6 +194,11 @@ TEST_F(MaláTest, TheWayBackLosesTheVisitButNotThePercentage) {
   EXPECT_EQ(strip(), "0 0 ");
   answerRow(1, true);
   EXPECT_EQ(strip(), "1 0 ");
+  forms.drop(names::Úvod);
+  window(names::Malá)->close();  // by the desktop: the same way
+  settle();
+  EXPECT_FALSE(forms.isLoaded(names::Malá));
+  EXPECT_NE(window(names::Úvod), nullptr);
 }
 
 TEST_F(MaláTest, GoingUnderItsBoxIsHarmless) {

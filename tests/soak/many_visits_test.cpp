@@ -63,6 +63,11 @@ Visit visitOf(FormName form) {
       {names::Veľkéčísla, fromMenu(names::Veľkéčísla, "Command5")},
       {names::Zátvorky, fromMenu(names::Zátvorky, "Command8")},
       {names::Hádanka, fromMenu(names::Hádanka, "Command9")},
+      {names::Vysvedčenie,
+       [](TirelessChild& child) {  // its own exits end the program
+         child.open(names::Vysvedčenie);
+         child.program.forms.drop(names::Vysvedčenie);
+       }},
       {names::Hodiny, byOwnExit(names::Hodiny, "picBackGround")},
       {names::Piškôrky, byOwnExit(names::Piškôrky, "Command2")},
       {names::frmPuzzle, byOwnExit(names::frmPuzzle, "mnuExit")},

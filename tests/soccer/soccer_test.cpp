@@ -264,7 +264,7 @@ TEST_F(SoccerTest, TheChosenOpponentPlaysAndIsNamed) {
   EXPECT_EQ(random.reseeded, 31);  // this level reseeds at every decision
 }
 
-TEST_F(SoccerTest, TheChoiceLiftsThePictureUnderThePointerAndEscGoesBack) {
+TEST_F(SoccerTest, TheChoiceLiftsThePictureUnderThePointerAndEscAndItsFrameGoBack) {
   startOne([] {
     QTest::mouseMove(picture(2), {30, 30});
     settle();
@@ -278,6 +278,9 @@ TEST_F(SoccerTest, TheChoiceLiftsThePictureUnderThePointerAndEscGoesBack) {
     activate(*window(kChoice));
     strike(Qt::Key_Escape);
   });
+  EXPECT_FALSE(forms.isLoaded(kChoice));
+  EXPECT_NE(window(kTitle), nullptr);
+  startOne([] { window(kChoice)->close(); });
   EXPECT_FALSE(forms.isLoaded(kChoice));
   EXPECT_NE(window(kTitle), nullptr);
   EXPECT_EQ(declarations.OpponentIndex, 1);  // as it was

@@ -4,8 +4,9 @@ namespace ratanka::piskorky {
 
 namespace {
 
+// Beside the board: the winning strokes are to be seen.
 MessageBox box(const char* text, MessageBox::Icon icon) {
-  return {"Piškôrky", text, icon, MessageBox::Buttons::ok};
+  return {.title = "Piškôrky", .text = text, .icon = icon, .isBeside = true};
 }
 
 }  // namespace

@@ -1,16 +1,40 @@
-#include "platform/maximising.h"
+#include "platform/window_states.h"
 
-#include <QGuiApplication>
+#include <QEvent>
 #include <QWidget>
 #include <QWindow>
 #include <memory>
 #include <utility>
 
+#include "platform/desktop.h"
+
 namespace ratanka {
+namespace {
+
+class ComesBack : public QObject {
+ public:
+  using QObject::QObject;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    auto* const window = static_cast<QWidget*>(watched);
+    if (event->type() != QEvent::WindowStateChange || !window->isMinimized()) return false;
+    // Not from within the change.
+    QMetaObject::invokeMethod(
+        window,
+        [window] {
+          if (window->isVisible()) window->showNormal();
+        },
+        Qt::QueuedConnection);
+    return false;
+  }
+};
+
+}  // namespace
 
 void growWhenMaximised(QWidget& widget) {
   constexpr auto kIsReady = "growsWhenMaximised";
-  if (!QGuiApplication::platformName().startsWith("wayland")) return;
+  if (!isWayland()) return;
   widget.winId();  // makes the window where there is none yet
   QWindow& window = *widget.windowHandle();
   if (window.property(kIsReady).toBool()) return;
@@ -30,5 +54,7 @@ void growWhenMaximised(QWidget& widget) {
   QObject::connect(&window, &QWindow::widthChanged, &window, adapt);
   QObject::connect(&window, &QWindow::heightChanged, &window, adapt);
 }
+
+void comeBackWhenPutAway(QWidget& widget) { widget.installEventFilter(new ComesBack(&widget)); }
 
 }  // namespace ratanka

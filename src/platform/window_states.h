@@ -9,4 +9,8 @@ namespace ratanka {
 // limit of this window's size goes while it is maximised, and comes back once it is small again.
 void growWhenMaximised(QWidget& widget);
 
+// A dialog that is put away would leave a child before windows that don't answer, and some managers
+// take the form beneath along. From now on this window comes back at once.
+void comeBackWhenPutAway(QWidget& widget);
+
 }  // namespace ratanka
