@@ -4,7 +4,9 @@
 #include <vector>
 
 // The music of the blocks game. Two old tunes that children here sing: "Tancuj, tancuj,
-// vykrúcaj" and "Mačka lezie dierou", with a beginning, two bridges and an end of our own.
+// vykrúcaj" and "Mačka lezie dierou", with a beginning, a refrain, two bridges and an end of our
+// own. It grows and gets a little faster, it rains in A minor, the sun comes out, everybody dances,
+// at last in D. As the game begins it anew every 150 s, it leaves about 5 s of silence.
 // note_text.h tells how notes are written.
 
 enum class Voice { flute, clarinet, bells, guitar, bass, drums };
@@ -26,6 +28,7 @@ struct Section {
 
 constexpr double kTempo = 104;
 constexpr int kInC = 0;
+constexpr int kInD = 2;
 constexpr int kInF = 5;
 
 // Tancuj, tancuj, vykrúcaj, vykrúcaj, len mi piecku nezrúcaj, nezrúcaj.
@@ -47,6 +50,19 @@ inline const std::string kDanceBass = "c4 f | c g, | g, d | g, b, | g, a,8 b, | 
 inline const std::string kOtherChords = "C F | Em C | Dm | Dm G7 | Dm G7 | C";
 inline const std::string kOtherBass = "c4 f | e c | d a, | d g, | d8 c b, g, | c g, c4";
 
+// A refrain for it, in its manner: tralalala, tralala, tralala, ...
+inline const std::string kRefrain = "g8 c' c' c' | b a g4 | a8 g f4 | f8 f a a | g f e4 | d8 b, c4";
+inline const std::string kRefrainBelow =
+    "e8 e e e | g f e4 | f8 e c4 | d8 d f f | e d c4 | b,8 g, e,4";
+inline const std::string kRefrainAgainst = "e4 g | d8 f e4 | c a, | a,8 a, d f | e d c4 | f8 d e4";
+inline const std::string kRefrainBells =
+    "c8 g e g | d r c g | f r c' a | d f a f | e r c g | r b, c4";
+inline const std::string kRefrainRipple =
+    "c'16 g e g c' g e g | b g d8 c'16 g e g | c' a c8 c'16 a f a | d' a f a d' a f a | "
+    "c' g b8 c'16 g e g | b d b d c'4";
+inline const std::string kRefrainChords = "C | G C | F | Dm | C | G7 C";
+inline const std::string kRefrainBass = "c4 g, | g, c | f c | d a, | c e | g, c";
+
 // Mačka lezie dierou, pes oknom, pes oknom, ak nebude pršať, nezmoknem, ...
 inline const std::string kCat =
     "c8 d e f | g4 g | a8 a g4 | a8 a g4 | f8 f f f | e4 e | d8 d g4 | "
@@ -65,6 +81,14 @@ inline const std::string kCatChords = "C | C | F C | F C | F | C | G7 | F | C | 
 inline const std::string kCatBass =
     "c4 g, | c e | f e | f c | f a, | c g, | d g, | f a, | e c | g, c";
 
+// A keď bude pršať, zmokneme, zmokneme, na slniečku zase uschneme: it rains, but the sun is near.
+inline const std::string kCatInRain =
+    "a,8 b, c d | e4 e | f8 f e4 | f8 f e4 | d8 d d d | c4 c | b,8 b, a,4";
+inline const std::string kCatInRainBelow = "e2 | c' | a4 c' | d' c' | b2 | e | g#4 a";
+inline const std::string kRainDrops =
+    "r8 e r8. c'16 | r8. a16 r8 e | r8 f r8. c'16 | r8. a16 r8 e | r8 d r8. b16 | "
+    "r8. g16 r8 e | r8 g# r8. a16";
+
 inline const std::vector<Section> kTune = {
     {"beginning",
      kTempo,
@@ -80,7 +104,7 @@ inline const std::vector<Section> kTune = {
       {Voice::guitar, 3, 50, kDanceChords},
       {Voice::bass, 2, 64, kDanceBass}}},
     {"dance, alone, second line",
-     kTempo,
+     kTempo + 2,
      kInC,
      {{Voice::flute, 5, 76, kDance},
       {Voice::bells, 5, 44, kDanceBells},
@@ -88,7 +112,7 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 64, kOtherBass}}},
 
     {"dance for two",
-     kTempo,
+     kTempo + 4,
      kInC,
      {{Voice::flute, 5, 78, kDance},
       {Voice::clarinet, 5, 62, kDanceThirds},
@@ -96,7 +120,7 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 66, kDanceBass},
       {Voice::drums, 0, 62, ".s.s"}}},
     {"dance for two, second line",
-     kTempo,
+     kTempo + 6,
      kInC,
      {{Voice::flute, 5, 80, kDance},
       {Voice::clarinet, 5, 64, kDanceSixths},
@@ -104,16 +128,26 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 66, kOtherBass},
       {Voice::drums, 0, 64, ".s.s"}}},
 
-    {"bridge to F",
-     kTempo,
+    {"refrain",
+     kTempo + 6,
      kInC,
-     {{Voice::bells, 5, 62, "e8 g c' g | c' a e c | d f a f | g f d b, | c e g bb | c'4 r"},
-      {Voice::clarinet, 4, 60, "r2 | r2 | a4 f | g f | e g | bb a8 g"},
-      {Voice::guitar, 3, 48, "C | Am | Dm | G7 | C7 | C7"},
-      {Voice::bass, 2, 56, "c4 g, | a, e | d a, | g, b, | c e | c8 g, c4"}}},
+     {{Voice::flute, 5, 78, kRefrain},
+      {Voice::clarinet, 5, 64, kRefrainBelow},
+      {Voice::bells, 5, 46, kRefrainBells},
+      {Voice::guitar, 3, 52, kRefrainChords},
+      {Voice::bass, 2, 66, kRefrainBass},
+      {Voice::drums, 0, 64, ".s.t"}}},
+
+    {"bridge to F",
+     kTempo + 4,
+     kInC,
+     {{Voice::bells, 5, 64, "d8 f a f | g f d b, | c e g bb | c'4 r"},
+      {Voice::clarinet, 4, 64, "a4 f | g f | e g | bb a8 g"},
+      {Voice::guitar, 3, 50, "Dm | G7 | C7 | C7"},
+      {Voice::bass, 2, 60, "d4 a, | g, b, | c e | c8 g, c4"}}},
 
     {"cat",
-     kTempo,
+     kTempo + 6,
      kInF,
      {{Voice::clarinet, 4, 78, kCat},
       {Voice::bells, 5, 50, kCatBells},
@@ -121,7 +155,7 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 64, kCatBass},
       {Voice::drums, 0, 62, "..s.t.s."}}},
     {"cat for two",
-     kTempo,
+     kTempo + 6,
      kInF,
      {{Voice::flute, 5, 72, kCat},
       {Voice::clarinet, 5, 64, kCatBelow},
@@ -137,16 +171,25 @@ inline const std::vector<Section> kTune = {
       {Voice::guitar, 3, 46, "F | Dm | E7 | E7"},
       {Voice::bass, 2, 58, "f4 c | d a, | e b, | e e"}}},
 
-    // The dance once more as if it rained.
+    // It rains on the cat, then on the dance.
+    {"cat in the rain",
+     kTempo - 4,
+     kInC,
+     {{Voice::flute, 5, 72, kCatInRain},
+      {Voice::clarinet, 4, 58, kCatInRainBelow},
+      {Voice::bells, 5, 46, kRainDrops},
+      {Voice::guitar, 3, 46, "Am | Am | Dm Am | Dm Am | G | C | E7 Am"},
+      {Voice::bass, 2, 60, "a,4 e | a, c | d a, | d a, | g, b, | c e | e a,"},
+      {Voice::drums, 0, 34, "ssssssss"}}},
     {"dance in A minor",
-     kTempo - 6,
+     kTempo - 4,
      kInC,
      {{Voice::clarinet, 5, 70, "e8 e f f | e d c4 | d8 c b,4 | d8 d e e | d c b,4 | c8 b, a,4"},
       {Voice::bells, 4, 50,
        "a8 c' f' d' | e' c' a c' | b g# e g# | b d' e' d' | b g# e b | a e c4"},
       {Voice::bass, 2, 60, "a,4 d | a, e | e b, | e g# | e e | a, e,"}}},
     {"the sun comes out",
-     kTempo - 4,
+     kTempo + 2,
      kInC,
      {{Voice::clarinet, 5, 70, "e8 e f f | e d c4 | d8 c b,4 | d8 d e e | d c b,4 | c8 d e f"},
       {Voice::flute, 5, 56, "g4 a | c' a | b g | b c' | d' b | c' b"},
@@ -155,7 +198,7 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 62, "c4 f | a, e | g, d | g, c | g, b, | c g,"}}},
 
     {"dance with runs",
-     kTempo,
+     kTempo + 8,
      kInC,
      {{Voice::flute, 5, 76, kDanceRun},
       {Voice::clarinet, 5, 62, kDanceThirds},
@@ -163,7 +206,7 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 66, kDanceBass},
       {Voice::drums, 0, 62, ".s.s"}}},
     {"dance with runs, second line",
-     kTempo,
+     kTempo + 8,
      kInC,
      {{Voice::flute, 5, 78, kDanceRunOn},
       {Voice::clarinet, 5, 62, kDanceSixths},
@@ -172,7 +215,7 @@ inline const std::vector<Section> kTune = {
       {Voice::drums, 0, 64, ".s.s"}}},
 
     {"cat at home",
-     kTempo,
+     kTempo + 8,
      kInC,
      {{Voice::flute, 5, 76, kCat},
       {Voice::clarinet, 4, 58, kCatLong},
@@ -182,7 +225,7 @@ inline const std::vector<Section> kTune = {
       {Voice::drums, 0, 62, "..s.t.s."}}},
 
     {"everybody dances",
-     kTempo,
+     kTempo + 10,
      kInC,
      {{Voice::flute, 5, 82, kDance},
       {Voice::clarinet, 5, 66, kDanceThirds},
@@ -191,33 +234,42 @@ inline const std::vector<Section> kTune = {
       {Voice::bass, 2, 68, kDanceBass},
       {Voice::drums, 0, 66, "..s.t.s."}}},
     {"everybody dances, second line",
-     kTempo,
+     kTempo + 10,
      kInC,
      {{Voice::flute, 5, 84, kDance},
       {Voice::clarinet, 5, 68, kDanceSixths},
-      {Voice::bells, 5, 50, kDanceBells},
-      {Voice::guitar, 3, 54, kOtherChords},
-      {Voice::bass, 2, 68, kOtherBass},
+      {Voice::bells, 5, 50, "r2 | r4 c'8 g | r4 f8 a | r4 b8 d' | r4 b8 d' | r4 c'8 a"},
+      {Voice::guitar, 3, 54, "C F | Em C | Dm | Dm G7 | Dm G7 | C Am"},
+      {Voice::bass, 2, 68, "c4 f | e c | d a, | d g, | d8 c b, g, | c g, a,4"},
       {Voice::drums, 0, 66, "..s.t.s."}}},
+    {"everybody's refrain, a tone higher",
+     kTempo + 10,
+     kInD,
+     {{Voice::flute, 5, 84, kRefrain},
+      {Voice::clarinet, 5, 68, kRefrainAgainst},
+      {Voice::bells, 5, 44, kRefrainRipple},
+      {Voice::guitar, 3, 54, kRefrainChords},
+      {Voice::bass, 2, 68, kRefrainBass},
+      {Voice::drums, 0, 66, "s.s.t.ss"}}},
 
     {"end: nezrúcaj, nezrúcaj",
-     kTempo - 2,
-     kInC,
-     {{Voice::flute, 5, 70, "f8 e d4 | e8 d c4 | r2 | r2"},
-      {Voice::clarinet, 4, 66, "r2 | r2 | f8 e d4 | e8 d c4"},
-      {Voice::guitar, 3, 48, "G7 | C | G7 | C"},
-      {Voice::bass, 2, 62, "g,4 b, | c g, | g, b, | c g,"}}},
+     kTempo,
+     kInD,
+     {{Voice::flute, 5, 80, "f8 e d4 | e8 d c4 | r2 | r2"},
+      {Voice::clarinet, 4, 76, "r2 | r2 | f8 e d4 | e8 d c4"},
+      {Voice::guitar, 3, 54, "G7 | C | G7 | C"},
+      {Voice::bass, 2, 66, "g,4 b, | c g, | g, b, | c g,"}}},
     {"end, slower",
      kTempo - 12,
-     kInC,
-     {{Voice::bells, 5, 54, "f8 e d4 | e8 d c4"},
-      {Voice::guitar, 3, 46, "G7 | C"},
-      {Voice::bass, 2, 48, "g,4 d | c g,"}}},
+     kInD,
+     {{Voice::bells, 5, 66, "f8 e d4 | e8 d c4"},
+      {Voice::guitar, 3, 50, "G7 | C"},
+      {Voice::bass, 2, 58, "g,4 d | c g,"}}},
     {"end, still slower",
      kTempo - 24,
-     kInC,
+     kInD,
      {{Voice::flute, 5, 58, "r2 | g | r"},
       {Voice::clarinet, 4, 54, "r2 | e' | r"},
-      {Voice::bells, 5, 52, "c8 e g c' | e'2 | r"},
+      {Voice::bells, 5, 52, "g,8 c e g | c'2 | r"},
       {Voice::bass, 2, 56, "c2 | c | r"}}},
 };
