@@ -178,12 +178,12 @@ void MatchForm::hold(int keyCode, bool isDown) {
 }
 
 void MatchForm::tmrMovePlayers_Timer() {
-  match_.tmrMovePlayers();
+  match_.movePlayersAndTap();
   refreshPieces();
 }
 
 void MatchForm::tmrMoveBall_Timer() {
-  const bool isGoal = match_.tmrMoveBall();
+  const bool isGoal = match_.moveBallAndTap();
   refreshPieces();
   if (!isGoal) return;
   kickedOff();

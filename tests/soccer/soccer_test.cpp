@@ -7,6 +7,8 @@
 #include <QPushButton>
 
 #include "all_forms.h"
+#include "platform/timer.h"
+#include "soccer/player2.h"
 #include "soccer/rules/game_library.h"
 
 namespace ratanka::soccer {
@@ -223,6 +225,55 @@ TEST_F(SoccerTest, AGoalIsCountedAndEveryPieceGoesHome) {
   EXPECT_EQ(placeOf("Red"), kRedAtStart);
   choose(kTwo, "mnuNewGame");
   EXPECT_EQ(textOf(kTwo, "RedGoals"), "0");
+}
+
+// A match whose pieces lie where a test puts them.
+class Pitch : public frmPlayer2 {
+ public:
+  using frmPlayer2::frmPlayer2;
+  using frmPlayer2::match;
+};
+
+TEST_F(SoccerTest, NoPlayerRunsThroughTheBallHoweverTheTicksCome) {
+  std::shared_ptr<Pitch> pitch;
+  forms.setMaker(kTwo,
+                 [&] { return pitch = std::make_shared<Pitch>(forms, dialogs, declarations); });
+  startTwo();
+  Match& match = pitch->match();
+  const auto passes = [&](const Piece& player, int x, int y) {
+    for (int time = 0; time < 1000; ++time) {
+      if (match.BallStepX == kStep * x && match.BallStepY == kStep * y) return false;
+      if ((match.Ball.Left - player.Left) * x + (match.Ball.Top - player.Top) * y <= 0) break;
+      ticks.advance(std::chrono::milliseconds(1));
+    }
+    return true;
+  };
+  for (const bool isTapLate : {false, true}) {
+    control<Timer>(kTwo, "tmrBallTap")->setEnabled(!isTapLate);
+    int passed = 0;
+    // Player and ball run straight at each other: on all eight ways, from 2 to 26 points apart,
+    // from each of a player's four ticks to one of the ball.
+    for (int which = 0; which < 8 * 25 * 4; ++which) {
+      constexpr int kWays[] = {0, 1, 2, 3, 5, 6, 7, 8};
+      const int x = kWays[which % 8] % 3 - 1;
+      const int y = kWays[which % 8] / 3 - 1;
+      const int apart = 2 + which / 8 % 25;
+      const auto tick = which / 200 * 10;
+      ticks.advance(std::chrono::milliseconds(45 + tick - ticks.now().count() % 40));
+      match.StartMatch(declarations);
+      const bool isRed = apart % 2 == 0;
+      Piece& player = isRed ? match.Red : match.Blue;
+      (isRed ? match.redHeld : match.blueHeld) = {y == -1, y == 1, x == -1, x == 1};
+      player.Left = 5640 - 13 * kStep * x;
+      player.Top = 3960 - 13 * kStep * y;
+      match.Ball.Left = player.Left + apart * kStep * x;
+      match.Ball.Top = player.Top + apart * kStep * y;
+      match.BallStepX = -kStep * x;
+      match.BallStepY = -kStep * y;
+      if (passes(player, x, y)) ++passed;
+    }
+    EXPECT_EQ(passed, 0) << "of 800" << (isTapLate ? ", with no tick of tmrBallTap between" : "");
+  }
 }
 
 TEST_F(SoccerTest, EscGoesBackToTheTitleWhereItEndsEverythingOnOneButtonOnly) {

@@ -82,6 +82,17 @@ bool Match::tmrCountdown(Declarations& declarations) {
   return isPaused;
 }
 
+void Match::movePlayersAndTap() {
+  tmrMovePlayers();
+  tmrBallTap();
+}
+
+bool Match::moveBallAndTap() {
+  const bool isGoal = tmrMoveBall();
+  tmrBallTap();
+  return isGoal;
+}
+
 bool Match::isInMouth() const { return Ball.Top >= kMouthTop && Ball.Top < kMouthBottom; }
 
 void Match::kickOff() {

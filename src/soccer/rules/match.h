@@ -25,7 +25,8 @@ struct Held {
 };
 
 // A match on the pitch: two players, a ball, the goals. Red attacks to the right, Blue to the left.
-// It owns no timer: its owner calls the four tick functions at their intervals, each a fixed step.
+// It owns no timer: its owner calls the four tick functions at their intervals, each a fixed step,
+// and what moves a piece together with a look for a touch: movePlayersAndTap, moveBallAndTap.
 struct Match {
   Piece Red = kRedStart;
   Piece Blue = kBlueStart;
@@ -55,6 +56,13 @@ struct Match {
 
   // Every second: true once the time is up; the match is then frozen.
   bool tmrCountdown(Declarations& declarations);
+
+  // tmrMovePlayers and tmrMoveBall, each with a look for a touch right after its step. Ticks that
+  // are due together come in any order, and tmrBallTap may be late: two steps with no look between
+  // them can take a player through the ball. One step can't, as it brings the two nearer by one
+  // point at most along each axis.
+  void movePlayersAndTap();
+  bool moveBallAndTap();  // true where it was a goal
 
  private:
   bool isInMouth() const;
