@@ -1,5 +1,5 @@
 // How strong the five levels of the computer are: each plays as Red against the same simple chaser
-// as Blue, some hundred whole matches a level.
+// as Blue, some hundred whole matches a level. The more goals Red has, the stronger the level.
 #include <cstdio>
 #include <random>
 
@@ -54,35 +54,39 @@ Match play(int level, unsigned seed, int pace) {
   Declarations declarations;
   match.StartMatch(declarations);
   computer.planMatch(random);
+  // The window's timers start together and stay in phase; within a millisecond their ticks come in
+  // the order in which it makes them.
   for (int ms = 1;; ++ms) {
-    computer.ComputerBrain(match, level, random);
-    match.tmrBallTap();
     if (ms % 10 == 0) {
       match.blueHeld = legs.below(pace) == 0 ? chaser(match) : Held{};
-      match.tmrMovePlayers();
+      match.movePlayersAndTap();
     }
-    if (ms % 40 == 5 && match.tmrMoveBall()) computer.planKickOff(random);
+    if (ms % 40 == 0 && match.moveBallAndTap()) computer.planKickOff(random);
+    match.tmrBallTap();
     if (ms > 1000 && ms % 1000 == 0 && match.tmrCountdown(declarations)) return match;
+    computer.ComputerBrain(match, level, random);
   }
 }
 
 void print(int pace, unsigned matches) {
-  std::printf("A chaser at 1/%d of the speed, %u matches a level\n", pace, matches);
-  std::printf("level  goals for  against   won  drawn  lost\n");
+  std::printf(
+      "Red (the computer) against Blue (a chaser at 1/%d of the speed), %u matches a level\n", pace,
+      matches);
+  std::printf("level  Red's goals  Blue's goals  Red won  drawn  Blue won\n");
   for (int level = 1; level <= 5; ++level) {
-    int goalsFor = 0;
-    int against = 0;
-    int won = 0;
+    int redGoals = 0;
+    int blueGoals = 0;
+    int redWon = 0;
     int drawn = 0;
     for (unsigned seed = 1; seed <= matches; ++seed) {
       const Match match = play(level, seed, pace);
-      goalsFor += match.RedGoals;
-      against += match.BlueGoals;
-      won += match.RedGoals > match.BlueGoals ? 1 : 0;
+      redGoals += match.RedGoals;
+      blueGoals += match.BlueGoals;
+      redWon += match.RedGoals > match.BlueGoals ? 1 : 0;
       drawn += match.RedGoals == match.BlueGoals ? 1 : 0;
     }
-    std::printf("%5d %10d %8d %5d %6d %5d\n", level, goalsFor, against, won, drawn,
-                static_cast<int>(matches) - won - drawn);
+    std::printf("%5d %12d %13d %8d %6d %9d\n", level, redGoals, blueGoals, redWon, drawn,
+                static_cast<int>(matches) - redWon - drawn);
   }
 }
 
