@@ -6,7 +6,8 @@
 namespace ratanka {
 
 // The machine's MIDI outputs, of which one at a time is open. Devices are numbered from 0 as the
-// system numbers them; kMidiMapper is the output that is always there to be tried.
+// system numbers them; kMidiMapper is the output that is always there to be tried. No call takes a
+// second: what couldn't be done by then has failed, and what couldn't be closed is left behind.
 class MidiOut {
  public:
   static constexpr int kMidiMapper = -1;

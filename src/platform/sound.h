@@ -5,7 +5,8 @@
 namespace ratanka {
 
 // Waves and music from the program's own data files, each named by its file alone. Every call
-// returns at once, in any order; what is missing or can't be played is silent.
+// returns at once, in any order; what is missing or can't be played is silent. The end takes less
+// than a second: what couldn't be closed by then is left behind.
 class Sound {
  public:
   virtual ~Sound() = default;

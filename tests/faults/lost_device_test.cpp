@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+#include <sys/time.h>
 
 #include <QProcess>
 #include <QTemporaryDir>
@@ -15,7 +16,7 @@
 #include "platform/lazy_sound.h"
 #include "platform/recording.h"
 
-// The sound server ends in the middle of a tune, and comes back.
+// The sound server ends or hangs in the middle of a tune, and comes back.
 namespace ratanka {
 namespace {
 
@@ -68,6 +69,10 @@ class SoundServer {
   SoundServer(const SoundServer&) = delete;
   SoundServer& operator=(const SoundServer&) = delete;
 
+  // It hangs, and goes on.
+  void stop() const { kill(static_cast<pid_t>(server_.processId()), SIGSTOP); }
+  void goOn() const { kill(static_cast<pid_t>(server_.processId()), SIGCONT); }
+
   bool plays() {
     ear_.waitForReadyRead(100);
     return recordingOf<std::int16_t>(ear_.readAll(), 32768).peak > 0.01;
@@ -89,19 +94,26 @@ double processorTime() {
   return seconds(usage.ru_utime) + seconds(usage.ru_stime);
 }
 
+constexpr std::chrono::milliseconds kQuick{1200};  // a second, and a little
+
 void requireQuick(const std::function<void()>& act, const char* word) {
   const auto start = steady_clock::now();
   act();
-  require(steady_clock::now() - start < std::chrono::seconds(2), word);
+  require(steady_clock::now() - start < kQuick, word);
 }
 
-void playThroughLosses() {
-  const QTemporaryDir folder;
+// Sends the libraries to the folder's sound server.
+void listenIn(const QTemporaryDir& folder) {
   for (const char* home : {"HOME", "XDG_RUNTIME_DIR", "PULSE_RUNTIME_PATH"}) {
     qputenv(home, folder.path().toUtf8());
   }
   qputenv("PULSE_SERVER", "unix:" + folder.filePath("native").toUtf8());
   qputenv("SDL_AUDIODRIVER", "pulseaudio");
+}
+
+void playThroughLosses() {
+  const QTemporaryDir folder;
+  listenIn(folder);
   auto server = std::make_unique<SoundServer>(folder.path());
   auto sound = std::make_unique<LazySound>();
   LazyMidiOut piano;
@@ -156,8 +168,76 @@ void playThroughLosses() {
   requireQuick([&] { sound.reset(); }, "it doesn't end");
 }
 
+// A server that hangs from the first, in the middle of a tune, and at the end.
+void playThroughHangs() {
+  const QTemporaryDir folder;
+  listenIn(folder);
+  SoundServer server(folder.path());
+  auto sound = std::make_unique<LazySound>();
+  auto piano = std::make_unique<LazyMidiOut>();
+  const auto doesPianoOpen = [&] { return piano->midiOutOpen(MidiOut::kMidiMapper) == 0; };
+  const auto playTune = [&] {
+    sound->openMusic("Tetris.mid");
+    sound->playMusic();
+  };
+  const auto playEverything = [&] {
+    requireQuick([&] { piano->midiOutShortMsg(0x7f3c90); }, "a key waits");
+    requireQuick([&] { piano->midiOutClose(); }, "the piano doesn't close");
+    requireQuick([&] { piano->midiOutGetNumDevs(); }, "the devices aren't told");
+    requireQuick([&] { piano->midiOutGetDevCapsA(0); }, "a device isn't named");
+    requireQuick([&] { require(!doesPianoOpen(), "a piano without a server"); },
+                 "the piano's opening waits");
+    requireQuick([&] { sound->PlayWave("Tetris2.wav"); }, "a wave waits");
+    requireQuick(playTune, "a tune waits");
+    requireQuick([&] { sound->closeMusic(); }, "a tune doesn't close");
+  };
+  const auto soundsAgain = [&] {
+    require(waitFor(doesPianoOpen), "the piano doesn't come back");
+    require(waitFor([&] { return !server.plays(); }), "what was closed goes on");
+    piano->midiOutShortMsg(0x7f3c90);
+    require(waitFor([&] { return server.plays(); }), "the piano stays dumb");
+    piano->midiOutClose();
+    require(waitFor([&] { return !server.plays(); }), "the piano goes on");
+    playTune();
+    require(waitFor([&] { return server.plays(); }), "no music");
+    sound->closeMusic();
+    require(waitFor([&] { return !server.plays(); }), "the music goes on");
+    const auto playsWave = [&] {
+      sound->PlayWave("Tetris2.wav");
+      return server.plays();
+    };
+    require(waitFor(playsWave), "no waves");
+  };
+
+  server.stop();
+  playEverything();
+  server.goOn();
+  soundsAgain();
+
+  require(doesPianoOpen(), "no second piano");
+  playTune();
+  server.stop();
+  for (int time = 0; time < 3; ++time) requireQuick(playEverything, "it waits time and again");
+  server.goOn();
+  soundsAgain();
+
+  require(doesPianoOpen(), "no third piano");
+  playTune();
+  server.stop();
+  // From here to the process's last moment: or the signal ends it.
+  const itimerval limit{{}, {kQuick.count() / 1000, kQuick.count() % 1000 * 1000}};
+  setitimer(ITIMER_REAL, &limit, nullptr);
+  piano.reset();
+  sound.reset();
+  std::exit(0);
+}
+
 TEST(LostDevice, SoundsGoOnInSilenceAndComeBackWithTheServer) {
   EXPECT_EXIT((playThroughLosses(), std::exit(0)), testing::ExitedWithCode(0), "^$");
+}
+
+TEST(LostDevice, AServerThatHangsHoldsNothingUp) {
+  EXPECT_EXIT(playThroughHangs(), testing::ExitedWithCode(0), "^$");
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <alsa/asoundlib.h>
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -9,6 +10,7 @@
 #include "platform/sound/makers.h"
 #include "platform/sound/sound_system.h"
 #include "platform/sound/synthesiser.h"
+#include "platform/sound/worker.h"
 
 namespace ratanka {
 namespace {
@@ -49,53 +51,86 @@ std::string cut(const std::string& name) {
   return name.substr(0, end);
 }
 
-// The built-in synthesiser as the mapper, the system's outputs as devices.
+// What the worker says to a question; an empty value where it says nothing in time.
+template <typename Answer>
+Answer ask(std::function<Answer()> question) {
+  const auto answer = std::make_shared<Answer>();
+  const bool isAnswered =
+      soundWorker().doInTime([answer, question = std::move(question)] { *answer = question(); });
+  return isAnswered ? *answer : Answer();
+}
+
+struct Output {
+  std::unique_ptr<Synthesiser> synthesiser;
+  std::unique_ptr<RtMidiOut> port;
+
+  bool open(int device, const std::string& soundFont) {
+    if (device == MidiOut::kMidiMapper) {
+      synthesiser = Synthesiser::open(soundFont);
+      return synthesiser != nullptr;
+    }
+    port = connect();
+    if (port) port->openPort(static_cast<unsigned>(device), "Klavír");
+    return port && port->isPortOpen();
+  }
+};
+
+// The built-in synthesiser as the mapper, the system's outputs as devices. The worker opens and
+// closes them, and a message goes out at once. What takes too long has failed: an output that opens
+// later is closed again.
 class MidiOutputs : public MidiOut {
  public:
   explicit MidiOutputs(std::string soundFont) : soundFont_(std::move(soundFont)) {}
+  ~MidiOutputs() override { close(); }
+  MidiOutputs(const MidiOutputs&) = delete;
+  MidiOutputs& operator=(const MidiOutputs&) = delete;
 
   int midiOutGetNumDevs() override {
-    const auto connection = connect();
-    return connection ? static_cast<int>(connection->getPortCount()) : 0;
+    return ask<int>([] {
+      const auto connection = connect();
+      return connection ? static_cast<int>(connection->getPortCount()) : 0;
+    });
   }
 
   std::string midiOutGetDevCapsA(int device) override {
-    const auto connection = connect();
-    return connection ? cut(connection->getPortName(static_cast<unsigned>(device))) : "";
+    return ask<std::string>([device] {
+      const auto connection = connect();
+      return connection ? cut(connection->getPortName(static_cast<unsigned>(device))) : "";
+    });
   }
 
   int midiOutOpen(int device) override {
-    midiOutClose();
-    if (device == kMidiMapper) {
-      synthesiser_ = Synthesiser::open(soundFont_);
-      return synthesiser_ ? 0 : kFailed;
+    close();
+    output_ = std::make_shared<Output>();
+    if (ask<bool>([output = output_, device, soundFont = soundFont_] {
+          return output->open(device, soundFont);
+        })) {
+      return 0;
     }
-    output_ = connect();
-    if (output_) output_->openPort(static_cast<unsigned>(device), "Klavír");
-    if (output_ && output_->isPortOpen()) return 0;
-    output_.reset();
+    close();
     return kFailed;
   }
 
   void midiOutShortMsg(std::uint32_t message) override {
-    if (synthesiser_) synthesiser_->send(message);
     if (!output_) return;
+    if (output_->synthesiser) output_->synthesiser->send(message);
+    if (!output_->port) return;
     const std::array<unsigned char, 3> bytes = {static_cast<unsigned char>(message),
                                                 static_cast<unsigned char>(message >> 8),
                                                 static_cast<unsigned char>(message >> 16)};
     const bool hasOneDatum = (bytes[0] & 0xe0) == 0xc0;
-    output_->sendMessage(bytes.data(), hasOneDatum ? 2 : 3);
+    output_->port->sendMessage(bytes.data(), hasOneDatum ? 2 : 3);
   }
 
-  void midiOutClose() override {
-    synthesiser_.reset();
-    output_.reset();
-  }
+  void midiOutClose() override { close(); }
 
  private:
   std::string soundFont_;
-  std::unique_ptr<Synthesiser> synthesiser_;
-  std::unique_ptr<RtMidiOut> output_;
+  std::shared_ptr<Output> output_;  // what is open
+
+  void close() {
+    if (output_) soundWorker().release(std::move(output_));
+  }
 };
 
 }  // namespace

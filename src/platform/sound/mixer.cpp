@@ -85,7 +85,6 @@ void Mixer::playWave(const std::string& file) {
 void Mixer::openMusic(const std::string& file) {
   closeMusic();
   if (!isSoundFont(soundFont_) || !open()) return;
-  const SoundSystem system;
   const std::string bytes = readSoundFile(file);
   // The sound font isn't loaded for anything else.
   if (bytes.starts_with("MThd")) music_.reset(Mix_LoadMUSType_RW(reader(bytes), MUS_MID, 1));
@@ -101,11 +100,7 @@ void Mixer::playMusic() {
   isFresh_ = false;
 }
 
-void Mixer::closeMusic() {
-  if (!music_) return;
-  const SoundSystem system;
-  music_.reset();
-}
+void Mixer::closeMusic() { music_.reset(); }
 
 void Mixer::rest() {
   closeLostDevice();

@@ -1,4 +1,5 @@
 #include <chrono>
+#include <memory>
 #include <string>
 
 #include "platform/sound.h"
@@ -9,36 +10,40 @@
 namespace ratanka {
 namespace {
 
-// A silence after which the device is given back.
-constexpr std::chrono::seconds kIdle{10};
 // A wave that couldn't be played by then, since a device was being opened or a font loaded, isn't
 // played any more: what it told of is over.
 constexpr std::chrono::milliseconds kLate{250};
 
-// Leaves all work to a thread of its own, so that no device, however slow, holds up a window.
+// Leaves all work to the worker, so that no device, however slow, holds up a window.
 class SdlSound : public Sound {
  public:
-  explicit SdlSound(std::string soundFont) : mixer_(std::move(soundFont)) {}
+  explicit SdlSound(std::string soundFont) : mixer_(std::make_shared<Mixer>(std::move(soundFont))) {
+    soundWorker().setWhenIdle([idle = std::weak_ptr(mixer_)] {
+      if (const auto mixer = idle.lock()) mixer->rest();
+    });
+  }
+  ~SdlSound() override { soundWorker().release(std::move(mixer_)); }
+  SdlSound(const SdlSound&) = delete;
+  SdlSound& operator=(const SdlSound&) = delete;
 
   void PlayWave(std::string_view file) override {
     const auto asked = std::chrono::steady_clock::now();
-    worker_.add([this, asked, path = std::string(file)] {
-      if (std::chrono::steady_clock::now() - asked < kLate) mixer_.playWave(path);
+    soundWorker().add([mixer = mixer_, asked, path = std::string(file)] {
+      if (std::chrono::steady_clock::now() - asked < kLate) mixer->playWave(path);
     });
   }
   void openMusic(std::string_view file) override {
-    worker_.add([this, path = std::string(file)] { mixer_.openMusic(path); });
+    soundWorker().add([mixer = mixer_, path = std::string(file)] { mixer->openMusic(path); });
   }
   void playMusic() override {
-    worker_.add([this] { mixer_.playMusic(); });
+    soundWorker().add([mixer = mixer_] { mixer->playMusic(); });
   }
   void closeMusic() override {
-    worker_.add([this] { mixer_.closeMusic(); });
+    soundWorker().add([mixer = mixer_] { mixer->closeMusic(); });
   }
 
  private:
-  Mixer mixer_;  // used by the worker, which ends before it
-  Worker worker_{kIdle, [this] { mixer_.rest(); }};
+  std::shared_ptr<Mixer> mixer_;  // the worker alone uses it
 };
 
 }  // namespace

@@ -7,11 +7,6 @@
 namespace ratanka {
 namespace {
 
-std::mutex& oneAtATime() {
-  static std::mutex mutex;
-  return mutex;
-}
-
 void sayNothing(const char*, int, const char*, int, const char*, ...) {}
 
 void silenceMessages() {
@@ -22,13 +17,12 @@ void silenceMessages() {
   SDL_LogSetOutputFunction([](void*, int, SDL_LogPriority, const char*) {}, nullptr);
 }
 
-// Used by who holds the lock.
 unsigned timesAnew = 0;
 bool areKept = false;
 
 }  // namespace
 
-SoundSystem::SoundSystem() : lock_(oneAtATime()) {
+SoundSystem::SoundSystem() {
   if (isReady()) return;
   silenceMessages();
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");

@@ -1,16 +1,14 @@
 #pragma once
 
 #include <functional>
-#include <mutex>
 
 namespace ratanka {
 
-// The machine's sound libraries, which don't like two threads to open, load or close something at
-// the same moment: whoever does so holds one of these meanwhile. They are started by the first one,
-// stay so until the program ends, install no handlers of signals and say nothing on stderr.
+// The machine's sound libraries. They are started by the first of these, stay so until the program
+// ends, install no handlers of signals and say nothing on stderr. For one thread alone: they don't
+// like two to open, load or close something at the same moment.
 class SoundSystem {
  public:
-  // Waits until no other thread holds one.
   SoundSystem();
 
   // Whether devices can be opened now; a sound server may come later.
@@ -28,9 +26,6 @@ class SoundSystem {
   // The devices that run, a bit for each number. One that went with its sound server has stopped,
   // though nobody closed it.
   unsigned runningDevices() const;
-
- private:
-  std::unique_lock<std::mutex> lock_;
 };
 
 }  // namespace ratanka

@@ -1,48 +1,79 @@
 #include "platform/sound/worker.h"
 
-#include <SDL.h>
+#include <unistd.h>
 
+#include <cstdlib>
+#include <thread>
 #include <utility>
 
 namespace ratanka {
 
-Worker::Worker(std::chrono::milliseconds idle, std::function<void()> whenIdle)
-    : idle_(idle), whenIdle_(std::move(whenIdle)), thread_([this] {
-        run();
-        SDL_TLSCleanup();  // what the library keeps for a thread
-      }) {}
-
-Worker::~Worker() {
-  {
-    const std::lock_guard lock(mutex_);
-    isEnding_ = true;
-  }
-  changed_.notify_one();
-  thread_.join();
+Worker::Worker() {
+  std::thread([this] { run(); }).detach();
 }
 
-void Worker::add(std::function<void()> task) {
-  {
-    const std::lock_guard lock(mutex_);
-    tasks_.push_back(std::move(task));
-  }
-  changed_.notify_one();
+void Worker::add(Task task) {
+  const std::lock_guard lock(mutex_);
+  tasks_.push_back(std::move(task));
+  given_.notify_one();
+}
+
+bool Worker::doInTime(Task task) {
+  std::unique_lock lock(mutex_);
+  if (lastDone_ < late_) return false;
+  tasks_.push_back(std::move(task));
+  given_.notify_one();
+  const std::uint64_t number = lastGiven();
+  if (done_.wait_for(lock, kPatience, [&] { return lastDone_ >= number; })) return true;
+  late_ = number;
+  if (lastBegun_ < number) tasks_.at(number - lastBegun_ - 1) = [] {};
+  return false;
+}
+
+void Worker::release(std::shared_ptr<void> last) {
+  add([owner = std::move(last)] {});
+  doInTime([] {});
+}
+
+void Worker::setWhenIdle(Task task) {
+  const std::lock_guard lock(mutex_);
+  whenIdle_ = std::move(task);
+}
+
+bool Worker::isBusy() {
+  const std::lock_guard lock(mutex_);
+  return lastDone_ < lastGiven();
 }
 
 void Worker::run() {
+  constexpr std::chrono::seconds kIdle{10};
   std::unique_lock lock(mutex_);
   while (true) {
-    changed_.wait_for(lock, idle_, [this] { return isEnding_ || !tasks_.empty(); });
-    if (isEnding_) return;
-    std::function<void()> task = whenIdle_;
-    if (!tasks_.empty()) {
-      task = std::move(tasks_.front());
-      tasks_.pop_front();
-    }
+    const bool isIdle = !given_.wait_for(lock, kIdle, [this] { return !tasks_.empty(); });
+    if (isIdle) tasks_.push_back(whenIdle_);
+    Task task = std::move(tasks_.front());
+    tasks_.pop_front();
+    ++lastBegun_;
     lock.unlock();
     task();
+    task = nullptr;  // with what it owns
     lock.lock();
+    lastDone_ = lastBegun_;
+    done_.notify_all();
   }
+}
+
+Worker& soundWorker() {
+  static Worker* const worker = [] {
+    auto* const one = new Worker;
+    on_exit(
+        [](int status, void* busy) {
+          if (static_cast<Worker*>(busy)->isBusy()) _exit(status);
+        },
+        one);
+    return one;
+  }();
+  return *worker;
 }
 
 }  // namespace ratanka
