@@ -25,7 +25,7 @@ class MidiOut {
   // Sends one short message, packed with the status in the lowest byte and the data bytes above it.
   // Without an open output it is lost.
   virtual void midiOutShortMsg(std::uint32_t message) = 0;
-  // Does nothing if nothing is open.
+  // Does nothing if nothing is open. Returns at once; the device may be given back a moment later.
   virtual void midiOutClose() = 0;
 };
 

@@ -128,6 +128,7 @@ void playThroughLosses() {
   auto server = std::make_unique<SoundServer>(folder.path());
   auto sound = std::make_unique<LazySound>();
   LazyMidiOut piano;
+  const auto doesPianoOpen = [&] { return piano.midiOutOpen(MidiOut::kMidiMapper) == 0; };
   const auto playWaves = [&] {
     sound->PlayWave("Tetris2.wav");
     return server->plays();
@@ -144,7 +145,7 @@ void playThroughLosses() {
     require(used < 0.5, "it spins");
   };
 
-  require(piano.midiOutOpen(MidiOut::kMidiMapper) == 0, "no piano");
+  require(waitFor(doesPianoOpen), "no piano");
   sound->openMusic("Tetris.mid");
   sound->playMusic();
   require(waitFor([&] { return server->plays(); }), "no music");
@@ -159,7 +160,7 @@ void playThroughLosses() {
   sound->playMusic();
   require(waitFor([&] { return server->plays(); }), "music doesn't come back");
   requireQuick([&] { piano.midiOutClose(); }, "a lost piano doesn't close");
-  require(piano.midiOutOpen(MidiOut::kMidiMapper) == 0, "the piano doesn't come back");
+  require(waitFor(doesPianoOpen), "the piano doesn't come back");
   sound->closeMusic();
   require(waitFor([&] { return !server->plays(); }), "the music goes on");
   require(waitFor([&] {
@@ -226,7 +227,7 @@ void playThroughHangs() {
   server.goOn();
   soundsAgain();
 
-  require(doesPianoOpen(), "no second piano");
+  require(waitFor(doesPianoOpen), "no second piano");
   playTune();
   server.stop();
   const auto start = steady_clock::now();
@@ -235,7 +236,7 @@ void playThroughHangs() {
   server.goOn();
   soundsAgain();
 
-  require(doesPianoOpen(), "no third piano");
+  require(waitFor(doesPianoOpen), "no third piano");
   playTune();
   server.stop();
   setLimit("it doesn't end");  // up to the process's last moment

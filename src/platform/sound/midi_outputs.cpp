@@ -81,7 +81,10 @@ struct Output {
 class MidiOutputs : public MidiOut {
  public:
   explicit MidiOutputs(std::string soundFont) : soundFont_(std::move(soundFont)) {}
-  ~MidiOutputs() override { close(); }
+  ~MidiOutputs() override {
+    close();
+    soundWorker().finish();
+  }
   MidiOutputs(const MidiOutputs&) = delete;
   MidiOutputs& operator=(const MidiOutputs&) = delete;
 

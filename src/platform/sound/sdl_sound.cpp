@@ -36,6 +36,7 @@ class SdlSound : public Sound {
   ~SdlSound() override {
     ++player_->tune;
     soundWorker().release(std::move(player_));
+    soundWorker().finish();
   }
   SdlSound(const SdlSound&) = delete;
   SdlSound& operator=(const SdlSound&) = delete;

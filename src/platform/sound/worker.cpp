@@ -32,7 +32,6 @@ bool Worker::doInTime(Task task) {
 
 void Worker::release(std::shared_ptr<void> last) {
   add([owner = std::move(last)] {});
-  doInTime([] {});
 }
 
 void Worker::setWhenIdle(Task task) {

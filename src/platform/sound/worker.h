@@ -30,9 +30,13 @@ class Worker {
   // Whether it was done in time. One that wasn't goes on if it has begun, and is forgotten if it
   // hasn't; until the worker has got past it, the next ones aren't begun and fail at once.
   bool doInTime(Task task);
-  // Lets the last owner of something go when the tasks up to now are done, and waits for that, but
-  // no longer than for any other. A task that is given an owner hands it back in this way.
+  // Lets the last owner of something go when the tasks up to now are done. Returns at once. What a
+  // task was given an owner of is handed back in this way.
   void release(std::shared_ptr<void> last);
+  // Waits for the tasks up to now, but no longer than for any other.
+  void finish() {
+    doInTime([] {});
+  }
 
   // Done each time that nothing has come for ten seconds.
   void setWhenIdle(Task task);
