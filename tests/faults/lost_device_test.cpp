@@ -27,7 +27,7 @@ void pause(int milliseconds) {
 }
 
 bool waitFor(const std::function<bool()>& holds) {
-  const auto end = steady_clock::now() + std::chrono::seconds(5);
+  const auto end = steady_clock::now() + std::chrono::seconds(20);  // a busy machine
   while (!holds()) {
     if (steady_clock::now() > end) return false;
     pause(20);
