@@ -197,17 +197,19 @@ void playThroughHangs() {
     requireQuick([&] { piano->midiOutClose(); }, "the piano doesn't close");
     requireQuick([&] { piano->midiOutGetNumDevs(); }, "the devices aren't told");
     requireQuick([&] { piano->midiOutGetDevCapsA(0); }, "a device isn't named");
-    requireQuick([&] { require(!doesPianoOpen(), "a piano without a server"); },
+    requireQuick([&] { require(doesPianoOpen(), "a slow piano is refused"); },
                  "the piano's opening waits");
     requireQuick([&] { sound->PlayWave("Tetris2.wav"); }, "a wave waits");
     requireQuick(playTune, "a tune waits");
     requireQuick([&] { sound->closeMusic(); }, "a tune doesn't close");
   };
   const auto soundsAgain = [&] {
-    require(waitFor(doesPianoOpen), "the piano doesn't come back");
     require(waitFor([&] { return !server.plays(); }), "what was closed goes on");
-    piano->midiOutShortMsg(0x7f3c90);
-    require(waitFor([&] { return server.plays(); }), "the piano stays dumb");
+    require(waitFor([&] {
+              piano->midiOutShortMsg(0x7f3c90);  // opened while the server hung
+              return server.plays();
+            }),
+            "the piano stays dumb");
     piano->midiOutClose();
     require(waitFor([&] { return !server.plays(); }), "the piano goes on");
     playTune();

@@ -2,6 +2,7 @@
 #include <alsa/asoundlib.h>
 
 #include <array>
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <string>
@@ -63,21 +64,23 @@ Answer ask(std::function<Answer()> question) {
 struct Output {
   std::unique_ptr<Synthesiser> synthesiser;
   std::unique_ptr<RtMidiOut> port;
+  std::atomic<bool> isOpen = false;  // all is there from then on
 
-  bool open(int device, const std::string& soundFont) {
+  void open(int device, const std::string& soundFont) {
     if (device == MidiOut::kMidiMapper) {
       synthesiser = Synthesiser::open(soundFont);
-      return synthesiser != nullptr;
+      isOpen = synthesiser != nullptr;
+      return;
     }
     port = connect();
     if (port) port->openPort(static_cast<unsigned>(device), "Klavír");
-    return port && port->isPortOpen();
+    isOpen = port && port->isPortOpen();
   }
 };
 
 // The built-in synthesiser as the mapper, the system's outputs as devices. The worker opens and
-// closes them, and a message goes out at once. What takes too long has failed: an output that opens
-// later is closed again.
+// closes them, and a message goes out at once. An output that takes long to open counts as open,
+// and sounds once it is: the machine may be slow, or its sound server busy.
 class MidiOutputs : public MidiOut {
  public:
   explicit MidiOutputs(std::string soundFont) : soundFont_(std::move(soundFont)) {}
@@ -105,17 +108,15 @@ class MidiOutputs : public MidiOut {
   int midiOutOpen(int device) override {
     close();
     output_ = std::make_shared<Output>();
-    if (ask<bool>([output = output_, device, soundFont = soundFont_] {
-          return output->open(device, soundFont);
-        })) {
-      return 0;
-    }
+    soundWorker().add(
+        [output = output_, device, soundFont = soundFont_] { output->open(device, soundFont); });
+    if (!soundWorker().finish() || output_->isOpen) return 0;
     close();
     return kFailed;
   }
 
   void midiOutShortMsg(std::uint32_t message) override {
-    if (!output_) return;
+    if (!output_ || !output_->isOpen) return;
     if (output_->synthesiser) output_->synthesiser->send(message);
     if (!output_->port) return;
     const std::array<unsigned char, 3> bytes = {static_cast<unsigned char>(message),

@@ -33,9 +33,9 @@ class Worker {
   // Lets the last owner of something go when the tasks up to now are done. Returns at once. What a
   // task was given an owner of is handed back in this way.
   void release(std::shared_ptr<void> last);
-  // Waits for the tasks up to now, but no longer than for any other.
-  void finish() {
-    doInTime([] {});
+  // Waits for the tasks up to now, but no longer than for any other; whether they were done.
+  bool finish() {
+    return doInTime([] {});
   }
 
   // Done each time that nothing has come for ten seconds.
