@@ -4,7 +4,6 @@
 #include <string>
 
 #include "programs.h"
-#include "robot.h"
 
 // Each measures one thing, prints its figures, and leaves no program behind.
 namespace ratanka::bench {

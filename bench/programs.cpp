@@ -25,11 +25,6 @@ Time startAt(Robot& robot, const Area& area) {
   return std::chrono::steady_clock::now();
 }
 
-Area inRow(int row, const Area& inFirstRow) {
-  constexpr int kPitch = 40;
-  return shifted(inFirstRow, {kSheet.at.x, kSheet.at.y + kPitch * (row - 1)});
-}
-
 }  // namespace
 
 Program withSound(const Program& program) {
@@ -53,14 +48,6 @@ OpenWindow::OpenWindow(Robot& robot, const Program& program)
   robot.awaitWindow();
   startMilliseconds_ = milliseconds(started_, robot.awaitChange(pixel, before));
 }
-
-Area answerBox(int row) { return inRow(row, {{304, 24}, 39, 24}); }
-
-Area tick(int row) { return inRow(row, {{352, 20}, 32, 32}); }
-
-Area shownResult(int row) { return inRow(row, {{400, 24}, 47, 24}); }
-
-Point sheetButton(int number) { return {388 + 52, 241 + 28 + 32 * number}; }
 
 void openSheet(Robot& robot, const OpenWindow& menu, int number) {
   rest(kSettled);

@@ -3,11 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "process.h"
-#include "robot.h"
+#include "screen/places.h"
+#include "screen/process.h"
+#include "screen/robot.h"
 #include "sheets/rules/example.h"
 
 namespace ratanka::bench {
+
+using namespace screen;
 
 struct Program {
   std::vector<std::string> command;
@@ -43,23 +46,6 @@ class OpenWindow {
   Process process_;
   double startMilliseconds_ = 0;
 };
-
-// Places in the exercise sheet; rows are numbered from 1.
-inline constexpr Area kSheet{{244, 133}, 536, 501};
-inline constexpr Area kSheetEdge{{264, 613}, 60, 10};  // where no menu ever stands
-Area answerBox(int row);
-Area tick(int row);
-Area shownResult(int row);  // empty unless the answer was wrong
-inline constexpr Point kReward{244 + 348, 133 + 468};
-inline constexpr Point kFreshExamples{244 + 420, 133 + 460};
-inline constexpr Point kBackToMenu{244 + 476, 133 + 460};
-
-// Places in the menu and in the report card.
-inline constexpr int kSheetButtons = 7;
-Point sheetButton(int number);  // 0 to kSheetButtons - 1, from top to bottom
-inline constexpr Point kCardButton{388 + 120, 241 + 252};
-inline constexpr Area kCardEdge{{345, 560}, 30, 10};  // where no menu ever stands
-inline constexpr Point kCardOk{332 + 181, 152 + 430};
 
 // Goes from the menu to a sheet, that of small sums unless told otherwise; returns when it stands
 // there and has the keyboard.
