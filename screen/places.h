@@ -22,6 +22,8 @@ constexpr Area inRow(int row, const Area& inFirstRow) {
   constexpr int kPitch = 40;
   return shifted(inFirstRow, {kSheet.at.x, kSheet.at.y + kPitch * (row - 1)});
 }
+// Of every sheet; the others are of those with the box behind the example.
+constexpr Area wholeRow(int row) { return inRow(row, {{24, 20}, 480, 32}); }
 constexpr Area answerBox(int row) { return inRow(row, {{304, 24}, 39, 24}); }
 constexpr Area tick(int row) { return inRow(row, {{352, 20}, 32, 32}); }
 // Empty unless the answer was wrong.

@@ -13,13 +13,10 @@ constexpr std::chrono::seconds kHang{20};
 
 Diary diary;
 
-void Diary::write(const char* what, const QWidget* whom) {
-  const QByteArray name = whom == nullptr ? QByteArray() : whom->objectName().toUtf8();
-  const QByteArray window = whom == nullptr ? QByteArray() : whom->window()->objectName().toUtf8();
+void Diary::write(const std::string& what) {
   const std::int64_t number = event;
-  std::snprintf(lines_[static_cast<std::size_t>(number) % kLines], sizeof lines_[0],
-                "%lld: %s %s on %s", static_cast<long long>(number), what, name.constData(),
-                window.constData());
+  std::snprintf(lines_[static_cast<std::size_t>(number) % kLines], sizeof lines_[0], "%lld: %s",
+                static_cast<long long>(number), what.c_str());
 }
 
 void Diary::print() const {

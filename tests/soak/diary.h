@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QWidget>
 #include <atomic>
 #include <cstdint>
 #include <string>
@@ -11,7 +10,7 @@ namespace ratanka::soak {
 // Where the restless child is and what it did last, for those who ask after a crash.
 class Diary {
  public:
-  void write(const char* what, const QWidget* whom);
+  void write(const std::string& what);
   void print() const;
 
   std::uint64_t seed = 0;

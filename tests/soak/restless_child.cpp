@@ -156,7 +156,13 @@ class RestlessChild : public QObject {
     QCoreApplication::sendEvent(qApp, &quit);
   }
 
-  static void note(const char* what, const QWidget* whom) { diary.write(what, whom); }
+  static void note(const QString& what, const QWidget* whom) {
+    const auto name = [](const QWidget* of) {
+      return of == nullptr ? QString() : of->objectName();
+    };
+    const QWidget* const window = whom == nullptr ? nullptr : whom->window();
+    diary.write((what + ' ' + name(whom) + " on " + name(window)).toStdString());
+  }
 
   // Null where none can be used.
   QWidget* oneWindow() {
@@ -210,7 +216,7 @@ class RestlessChild : public QObject {
     const Sign& sign = oneOf(kSigns);
     const int how = below(100);
     const QString typed = QString::fromUtf8(sign.typed);
-    note(qPrintable(QString("key %1").arg(sign.key, 0, 16)), QApplication::focusWidget());
+    note(QString("key %1").arg(sign.key, 0, 16), QApplication::focusWidget());
     if (how < 50) {
       hands_.strike(sign.key, sign.modifiers, typed);
     } else if (how < 70) {
@@ -317,7 +323,7 @@ class RestlessChild : public QObject {
     });
     if (items.isEmpty()) return;
     QAction* const item = items.at(below(static_cast<int>(items.size())));
-    note(qPrintable("menu " + item->objectName()), window);
+    note("menu " + item->objectName(), window);
     item->trigger();
   }
 
