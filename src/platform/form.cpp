@@ -6,6 +6,7 @@
 
 #include "platform/form_window.h"
 #include "platform/forms.h"
+#include "platform/program_state.h"
 #include "platform/timer.h"
 
 namespace ratanka {
@@ -14,8 +15,9 @@ Form::Form(Forms& forms, FormDesign design) : forms_(forms), design_(std::move(d
 
 Form::~Form() {
   connections_.reset();
+  endTimers();
   if (window_ != nullptr) leaving_.push_back(std::exchange(window_, nullptr));
-  for (FormWindow* const window : leaving_) window->leaveForm();
+  for (FormWindow* const window : leaving_) window->leaveOwner();
   letGo();
 }
 
@@ -35,13 +37,15 @@ void Form::cutTo(const std::vector<ScreenPoint>& outline) {
 
 void Form::setClientSize(const PixelSize& size) { window_->setFixedSize(size.width, size.height); }
 
-bool Form::hasEnded() const { return forms_.isEnding(); }
+ProgramState& Form::state() const { return forms_.state(); }
+
+bool Form::hasEnded() const { return state().isEnding(); }
 
 void Form::load() {
   if (isLoaded()) return;
   const HandlerScope scope(*this);
   connections_ = std::make_unique<QObject>();
-  window_ = new FormWindow(*this, design_);
+  window_ = new FormWindow(*this, state(), design_);
   build();
   window_->fitMenuBar();
   Form_Load();
@@ -56,10 +60,10 @@ void Form::unload() {
   isUnloading_ = false;
   connections_.reset();
   FormWindow* const window = std::exchange(window_, nullptr);
-  window->leaveForm();
-  for (Timer* const timer : std::exchange(timers_, {})) timer->setEnabled(false);
+  window->leaveOwner();
+  endTimers();
   window->hide();
-  forms_.formLeft(*this);
+  state().leave(*window);
   leaving_.push_back(window);
 }
 
@@ -72,7 +76,41 @@ void Form::bringUp() {
   if (design_.takesKeyboard) window_->activateWindow();
   const HandlerScope scope(*this);
   if (!wasVisible) Form_Resize();
-  if (design_.takesKeyboard && isLoaded()) forms_.formBecameActive(*this);
+  if (design_.takesKeyboard && isLoaded()) windowBecameActive();
+}
+
+void Form::windowBecameActive() {
+  if (!state().makeActive(*window_)) return;
+  const HandlerScope scope(*this);
+  Form_Activate();
+}
+
+void Form::windowChanged(WindowChange change) {
+  if (hasEnded()) return;
+  const HandlerScope scope(*this);
+  switch (change) {
+    case WindowChange::closeAsked:
+      closeAsked();
+      break;
+    case WindowChange::minimisedOrBack:
+      Form_Resize();
+      break;
+    case WindowChange::keyboardLeaves:
+      keyboardLeaves();
+      break;
+  }
+}
+
+void Form::keyWentDown(int keyCode) {
+  if (hasEnded()) return;
+  const HandlerScope scope(*this);
+  Form_KeyDown(keyCode);
+}
+
+void Form::keyCameUp(int keyCode) {
+  if (hasEnded()) return;
+  const HandlerScope scope(*this);
+  Form_KeyUp(keyCode);
 }
 
 void Form::runModally() {
@@ -88,7 +126,7 @@ void Form::hide() {
   if (!isLoaded()) return;
   for (Timer* const timer : timers_) timer->setEasy(true);
   window_->hide();
-  forms_.formLeft(*this);
+  state().leave(*window_);
 }
 
 void Form::giveFocus(QWidget& control) {
@@ -102,24 +140,21 @@ void Form::giveFocus(QWidget& control) {
 }
 
 Timer* Form::timer(const QString& name, int milliseconds, std::function<void()> handler) {
-  auto* const result = new Timer(window_, forms_.ticks_);
-  const auto tick = [this, result, handler = std::move(handler)] {
-    if (hasEnded()) return;
-    const bool isBadMoment = handlersRunning_ > 0 && !result->isImpatient();
-    if (isBadMoment || result->isTicking()) {
-      result->postpone();
-      return;
-    }
-    const HandlerScope scope(*this);
-    result->setTicking(true);
-    handler();
-    result->setTicking(false);
-  };
-  QObject::connect(result, &Timer::ticked, connections_.get(), tick);
+  auto* const result = new Timer(
+      window_, state().ticks(), [this] { return handlersRunning_ == 0; },
+      [this, handler = std::move(handler)] {
+        if (hasEnded()) return;
+        const HandlerScope scope(*this);
+        handler();
+      });
   timers_.push_back(result);
   result->setObjectName(name);
   result->setInterval(milliseconds);
   return result;
+}
+
+void Form::endTimers() {
+  for (Timer* const timer : std::exchange(timers_, {})) timer->end();
 }
 
 void Form::deliverTicks() {
@@ -133,7 +168,7 @@ void Form::letGo() {
 
 Form::HandlerScope::HandlerScope(Form& form) : form_(form.shared_from_this()) {
   ++form_->handlersRunning_;
-  form_->forms_.handlerStarted();
+  form_->state().handlerStarted();
 }
 
 Form::HandlerScope::~HandlerScope() {
@@ -141,7 +176,7 @@ Form::HandlerScope::~HandlerScope() {
     form_->letGo();
     form_->deliverTicks();
   }
-  form_->forms_.handlerReturned();
+  form_->state().handlerReturned();
 }
 
 }  // namespace ratanka

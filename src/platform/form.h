@@ -7,8 +7,8 @@
 #include <type_traits>
 #include <vector>
 
-#include "platform/form_name.h"
-#include "platform/units.h"
+#include "platform/form_design.h"
+#include "platform/window_owner.h"
 
 class QMenuBar;
 class QWidget;
@@ -17,31 +17,8 @@ namespace ratanka {
 
 class Forms;
 class FormWindow;
+class ProgramState;
 class Timer;
-
-// Where a fresh window comes up, as far as the window system lets a program choose.
-enum class Opening {
-  byDesktop,
-  besideControls,  // where it hides least of the boxes and buttons of the form before it
-  unhidden,  // by the desktop, but not beneath the form before it where there is a better place
-};
-
-// A form's window as designed.
-struct FormDesign {
-  FormName name;
-  QString caption{};
-  int width = 0;  // of the client area, in twips
-  int height = 0;
-  bool hasBorder = true;
-  Rgb back{255, 255, 255};
-  QString picture{};        // drawn in the upper left corner; none where empty
-  PixelSize pictureSize{};  // in logical pixels
-  bool takesKeyboard = true;
-  bool hasMenu = false;  // a bar of menus above the client area
-  bool canMinimise = true;
-  bool isDialog = false;  // shown modally: stays before the others and can't be put away
-  Opening opening = Opening::byDesktop;
-};
 
 // One form of the program: its variables live in the object, its controls in a window that comes
 // with `load` and goes with `unload`. A subclass lays out its controls in `build`, connects its
@@ -50,7 +27,7 @@ struct FormDesign {
 // While a handler of this form runs, the form and the controls that it started with stay in memory,
 // even when it unloads or drops its own form. Controls of an unloaded form can still be touched
 // until then, without an effect. No handler of an unloaded form starts.
-class Form : public std::enable_shared_from_this<Form> {
+class Form : public std::enable_shared_from_this<Form>, private WindowOwner {
  public:
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
@@ -121,8 +98,7 @@ class Form : public std::enable_shared_from_this<Form> {
   void giveFocus(QWidget& control);
 
  private:
-  friend class Forms;
-  friend class FormWindow;
+  friend class Forms;  // loads, shows and takes down
 
   class HandlerScope {
    public:
@@ -135,13 +111,21 @@ class Form : public std::enable_shared_from_this<Form> {
     std::shared_ptr<Form> form_;
   };
 
+  // What the window tells.
+  void windowBecameActive() override;
+  void windowChanged(WindowChange change) override;
+  void keyWentDown(int keyCode) override;
+  void keyCameUp(int keyCode) override;
+
   bool hasEnded() const;  // the whole program
+  ProgramState& state() const;
   void load();
   void unload();
   void bringUp();
   void runModally();
   void hide();
   void deliverTicks();
+  void endTimers();
   void letGo();
 
   Forms& forms_;

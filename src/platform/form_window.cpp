@@ -13,9 +13,9 @@
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
-#include "platform/forms.h"
 #include "platform/free_place.h"
 #include "platform/pictures.h"
+#include "platform/program_state.h"
 #include "platform/text.h"
 #include "platform/window_states.h"
 
@@ -39,7 +39,8 @@ bool movesByItself(QWindow& window) {
 
 }  // namespace
 
-FormWindow::FormWindow(Form& form, const FormDesign& design) : form_(&form), design_(design) {
+FormWindow::FormWindow(WindowOwner& owner, ProgramState& state, const FormDesign& design)
+    : owner_(&owner), state_(state), design_(design) {
   setObjectName(text(design.name.text()));
   setWindowTitle(design.caption);
   Qt::WindowFlags flags = design.isDialog ? Qt::Dialog : Qt::Window;
@@ -69,7 +70,7 @@ void FormWindow::fitMenuBar() {
   client_->move(0, height);
   setFixedSize(client_->width(), height + client_->height());
   for (QMenu* const menu : menuBar_->findChildren<QMenu*>()) {
-    connect(menu, &QMenu::aboutToShow, this, [this] { tell(&Form::keyboardLeaves); });
+    connect(menu, &QMenu::aboutToShow, this, [this] { tell(WindowChange::keyboardLeaves); });
   }
 }
 
@@ -161,7 +162,7 @@ void FormWindow::paintBackground(QPainter& painter) {
 void FormWindow::closeEvent(QCloseEvent* event) {
   // Closing is the form's to do: its window goes when its handlers have returned.
   event->ignore();
-  tell(&Form::closeAsked);
+  tell(WindowChange::closeAsked);
 }
 
 void FormWindow::showEvent(QShowEvent*) {
@@ -178,17 +179,17 @@ void FormWindow::changeEvent(QEvent* event) {
   if (event->type() != QEvent::WindowStateChange) return;
   const auto before = static_cast<QWindowStateChangeEvent*>(event)->oldState();
   // Not on Wayland: a program isn't told there that its window was put away.
-  if (before.testFlag(Qt::WindowMinimized) != isMinimized()) tell(&Form::Form_Resize);
+  if (before.testFlag(Qt::WindowMinimized) != isMinimized()) tell(WindowChange::minimisedOrBack);
 }
 
 bool FormWindow::event(QEvent* event) {
   const bool isHeard = isVisible() && design_.takesKeyboard;
   if (isHeard && event->type() == QEvent::WindowDeactivate) {
-    if (form_ != nullptr) form_->forms_.keyboard_.letGo(windowHandle());
-    tell(&Form::keyboardLeaves);
+    if (owner_ != nullptr) state_.keyboard().letGo(windowHandle());
+    tell(WindowChange::keyboardLeaves);
   }
-  if (isHeard && event->type() == QEvent::WindowActivate && form_ != nullptr) {
-    form_->forms_.formBecameActive(*form_);
+  if (isHeard && event->type() == QEvent::WindowActivate && owner_ != nullptr) {
+    owner_->windowBecameActive();
   }
   if (event->type() == QEvent::WindowActivate && !design_.takesKeyboard) {
     QMetaObject::invokeMethod(
@@ -208,17 +209,14 @@ void FormWindow::giveKeyboardBack() {
 }
 
 FormWindow* FormWindow::windowBefore() const {
-  const Form* const before = form_ == nullptr ? nullptr : form_->forms_.active_;
-  return before == nullptr ? nullptr : before->window_;
+  return owner_ == nullptr ? nullptr : state_.active();
 }
 
 bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
   const bool isPress = event->type() == QEvent::KeyPress;
   if (watched != windowHandle() || (!isPress && event->type() != QEvent::KeyRelease)) return false;
   // A menu that is open has the keyboard for itself.
-  if (form_ == nullptr || form_->hasEnded() || QApplication::activePopupWidget() != nullptr) {
-    return false;
-  }
+  if (owner_ == nullptr || QApplication::activePopupWidget() != nullptr) return false;
   // So has a bar that the Alt key has woken. It may keep the focus after its menu was used, where
   // nothing else wants it.
   const bool isInBar =
@@ -228,21 +226,18 @@ bool FormWindow::eventFilter(QObject* watched, QEvent* event) {
     const FormWindow* const before = windowBefore();
     return before != nullptr && QCoreApplication::sendEvent(before->windowHandle(), event);
   }
-  const Form::HandlerScope scope(*form_);
   const auto& key = *static_cast<QKeyEvent*>(event);
-  const int code = form_->forms_.keyboard_.codeOf(key);
+  const int code = state_.keyboard().codeOf(key);
   if (isPress) {
-    form_->Form_KeyDown(code);
+    owner_->keyWentDown(code);
   } else if (!key.isAutoRepeat()) {
-    form_->Form_KeyUp(code);
+    owner_->keyCameUp(code);
   }
   return false;
 }
 
-void FormWindow::tell(void (Form::*happening)()) {
-  if (form_ == nullptr || form_->hasEnded()) return;
-  const Form::HandlerScope scope(*form_);
-  (form_->*happening)();
+void FormWindow::tell(WindowChange change) {
+  if (owner_ != nullptr) owner_->windowChanged(change);
 }
 
 void FormWindow::mousePressEvent(QMouseEvent* event) {

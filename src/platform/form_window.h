@@ -6,21 +6,24 @@
 #include <QWidget>
 #include <optional>
 
-#include "platform/form.h"
+#include "platform/form_design.h"
+#include "platform/window_owner.h"
 
 class QEventLoop;
 class QMenuBar;
 
 namespace ratanka {
 
+class ProgramState;
+
 // The window of one loading of a form: paints the form's background, passes on what the window
 // system says, and is dragged where it is cut to an outline.
 class FormWindow : public QWidget {
  public:
-  FormWindow(Form& form, const FormDesign& design);
+  FormWindow(WindowOwner& owner, ProgramState& state, const FormDesign& design);
 
-  // From now on the form hears nothing of this window.
-  void leaveForm() { form_ = nullptr; }
+  // From now on the owner hears nothing of this window.
+  void leaveOwner() { owner_ = nullptr; }
 
   // Before the window is first shown. Where the desktop draws translucent windows the edge is
   // smooth; elsewhere the region alone cuts.
@@ -52,12 +55,13 @@ class FormWindow : public QWidget {
 
  private:
   void paintBackground(QPainter& painter);
-  void tell(void (Form::*happening)());
+  void tell(WindowChange change);
   void giveKeyboardBack();
   void comeOut();
   FormWindow* windowBefore() const;
 
-  Form* form_;
+  WindowOwner* owner_;
+  ProgramState& state_;
   const FormDesign design_;
   QMenuBar* menuBar_ = nullptr;  // these two only where there are menus
   QWidget* client_ = nullptr;

@@ -8,6 +8,11 @@
 
 namespace ratanka {
 
+Forms::Forms(Ticks& ticks)
+    : state_(ticks, [this] {
+        if (!anyVisible()) endProgram();
+      }) {}
+
 Forms::~Forms() {
   forms_.clear();
   // Windows wait for their last event to pass; there is none to come.
@@ -40,39 +45,20 @@ bool Forms::isLoaded(FormName name) const {
   return form && form->isLoaded();
 }
 
-void Forms::endProgram() {
-  if (isEnding_) return;
-  isEnding_ = true;
-  // Boxes too: a hidden box lets go of the handler that waits for it.
-  for (QWidget* const window : QApplication::topLevelWidgets()) window->hide();
-  QCoreApplication::exit(0);
-}
-
 std::shared_ptr<Form> Forms::find(FormName name) const {
   const auto form = forms_.find(name);
   return form == forms_.end() ? nullptr : form->second;
 }
 
 void Forms::loadAnd(FormName name, void (Form::*display)()) {
-  if (isEnding_) return;
+  if (isEnding()) return;
   const std::shared_ptr<Form> form = findOrMake(name);
   if (!form) return;
-  handlerStarted();
+  state_.handlerStarted();
   form->load();
   // A form may take itself down while it loads.
-  if (form->isLoaded() && !isEnding_) ((*form).*display)();
-  handlerReturned();
-}
-
-void Forms::formBecameActive(Form& form) {
-  if (isEnding_ || active_ == &form) return;
-  active_ = &form;
-  const Form::HandlerScope scope(form);
-  form.Form_Activate();
-}
-
-void Forms::formLeft(const Form& form) {
-  if (active_ == &form) active_ = nullptr;
+  if (form->isLoaded() && !isEnding()) ((*form).*display)();
+  state_.handlerReturned();
 }
 
 std::shared_ptr<Form> Forms::findOrMake(FormName name) {
@@ -86,10 +72,6 @@ bool Forms::anyVisible() const {
   return std::any_of(forms_.begin(), forms_.end(), [](const auto& entry) {
     return entry.second->isLoaded() && entry.second->window().isVisible();
   });
-}
-
-void Forms::handlerReturned() {
-  if (--handlersRunning_ == 0 && !anyVisible()) endProgram();
 }
 
 }  // namespace ratanka

@@ -5,12 +5,11 @@
 #include <memory>
 
 #include "platform/form_name.h"
-#include "platform/keyboard.h"
+#include "platform/program_state.h"
 
 namespace ratanka {
 
 class Form;
-class Ticks;
 
 // Owns the forms of the program, each at most once, and shows and takes them down by their names.
 //
@@ -24,7 +23,7 @@ class Forms {
  public:
   using Maker = std::function<std::shared_ptr<Form>()>;
 
-  explicit Forms(Ticks& ticks) : ticks_(ticks) {}
+  explicit Forms(Ticks& ticks);
   Forms(const Forms&) = delete;
   Forms& operator=(const Forms&) = delete;
   ~Forms();
@@ -45,29 +44,21 @@ class Forms {
   bool isLoaded(FormName name) const;
 
   // Ends the program at once with whatever is open: no further window, box or handler.
-  void endProgram();
-  bool isEnding() const { return isEnding_; }
+  void endProgram() { state_.end(); }
+  bool isEnding() const { return state_.isEnding(); }
+
+  // For forms to share.
+  ProgramState& state() { return state_; }
 
  private:
-  friend class Form;
-  friend class FormWindow;
-
   std::shared_ptr<Form> find(FormName name) const;
   bool anyVisible() const;
   std::shared_ptr<Form> findOrMake(FormName name);
-  void handlerStarted() { ++handlersRunning_; }
-  void handlerReturned();
   void loadAnd(FormName name, void (Form::*display)());
-  void formBecameActive(Form& form);
-  void formLeft(const Form& form);
 
-  Ticks& ticks_;
-  Keyboard keyboard_;
+  ProgramState state_;
   std::map<FormName, Maker> makers_;
   std::map<FormName, std::shared_ptr<Form>> forms_;
-  const Form* active_ = nullptr;  // the form that had the keyboard last
-  int handlersRunning_ = 0;
-  bool isEnding_ = false;
 };
 
 }  // namespace ratanka

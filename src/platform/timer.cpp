@@ -1,6 +1,7 @@
 #include "platform/timer.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ratanka {
 namespace {
@@ -9,7 +10,12 @@ constexpr int kEasyMilliseconds = 250;
 
 }  // namespace
 
-Timer::Timer(QObject* parent, Ticks& ticks) : QObject(parent), ticks_(ticks) {}
+Timer::Timer(QObject* parent, Ticks& ticks, std::function<bool()> isGateOpen,
+             std::function<void()> handler)
+    : QObject(parent),
+      ticks_(ticks),
+      isGateOpen_(std::move(isGateOpen)),
+      handler_(std::move(handler)) {}
 
 void Timer::setInterval(int milliseconds) {
   if (milliseconds == interval_) return;
@@ -35,24 +41,34 @@ void Timer::setEasy(bool easy) {
 }
 
 void Timer::restart() {
-  isPostponed_ = false;
+  isKept_ = false;
   source_.reset();
-  if (enabled_ && interval_ > 0) {
-    const int interval = isEasy_ ? std::max(interval_, kEasyMilliseconds) : interval_;
-    const auto precision = isPrecise_ && !isEasy_ ? Ticks::Precision::fine : Ticks::Precision::any;
-    source_ =
-        ticks_.every(std::chrono::milliseconds(interval), precision, [this] { emit ticked(); });
-  }
+  if (!handler_ || !enabled_ || interval_ <= 0) return;
+  const int interval = isEasy_ ? std::max(interval_, kEasyMilliseconds) : interval_;
+  const auto precision = isPrecise_ && !isEasy_ ? Ticks::Precision::fine : Ticks::Precision::any;
+  source_ = ticks_.every(std::chrono::milliseconds(interval), precision, [this] { tick(); });
+}
+
+void Timer::tick() {
+  isKept_ = isTicking_ || !(isImpatient_ || isGateOpen_());
+  if (isKept_) return;
+  isTicking_ = true;
+  const std::function<void()> handler = handler_;  // it may end the timer
+  handler();
+  isTicking_ = false;
 }
 
 void Timer::deliver() {
-  if (!isPostponed_) return;
+  if (!isKept_) return;
   const auto tickAgain = [this] {
-    if (!isPostponed_) return;
-    isPostponed_ = false;
-    emit ticked();
+    if (std::exchange(isKept_, false)) tick();
   };
   QMetaObject::invokeMethod(this, tickAgain, Qt::QueuedConnection);
+}
+
+void Timer::end() {
+  handler_ = nullptr;
+  restart();
 }
 
 }  // namespace ratanka

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <functional>
 #include <memory>
 
 #include "platform/ticks.h"
@@ -9,51 +10,50 @@ namespace ratanka {
 
 // A form's timer: ticks periodically while it is enabled and its interval is above 0. Turning it
 // on and changing its interval starts the wait anew; turning on one that is on does nothing.
-// A receiver may destroy it.
+//
+// A tick is an event between other events. One that comes at a bad moment, while its gate is shut
+// or its own last tick is handled, is kept and comes again once after `deliver`, unless the timer
+// is turned off or restarted before.
 class Timer : public QObject {
   Q_OBJECT
   Q_PROPERTY(int interval READ interval WRITE setInterval)
   Q_PROPERTY(bool enabled READ isEnabled WRITE setEnabled)
 
  public:
-  Timer(QObject* parent, Ticks& ticks);
+  Timer(QObject* parent, Ticks& ticks, std::function<bool()> isGateOpen,
+        std::function<void()> handler);
 
   int interval() const { return interval_; }
   void setInterval(int milliseconds);
   bool isEnabled() const { return enabled_; }
   void setEnabled(bool enabled);
 
-  // An impatient timer ticks even while its form stands at a box.
-  bool isImpatient() const { return isImpatient_; }
+  // Ticks whatever its gate says: even while its form stands at a box.
   void setImpatient() { isImpatient_ = true; }
-  // A precise timer keeps its interval to the millisecond; all below 20 ms do.
+  // Keeps its interval to the millisecond; all below 20 ms do.
   void setPrecise();
-  // An easy timer ticks a few times a second at most.
+  // Ticks a few times a second at most.
   void setEasy(bool easy);
-  // While its own tick is handled.
-  bool isTicking() const { return isTicking_; }
-  void setTicking(bool ticking) { isTicking_ = ticking; }
 
-  // A tick that came at a bad moment comes again once after `deliver`, as an event of its own,
-  // unless the timer is turned off or restarted before.
-  void postpone() { isPostponed_ = true; }
   void deliver();
-
- signals:
-  void ticked();
+  // Never ticks again, whatever is set.
+  void end();
 
  private:
   void restart();
+  void tick();
 
   Ticks& ticks_;
+  std::function<bool()> isGateOpen_;
+  std::function<void()> handler_;
   std::unique_ptr<Ticks::Source> source_;
   int interval_ = 0;
   bool enabled_ = false;
-  bool isPostponed_ = false;
   bool isImpatient_ = false;
   bool isPrecise_ = false;
   bool isEasy_ = false;
   bool isTicking_ = false;
+  bool isKept_ = false;  // a tick that came at a bad moment
 };
 
 }  // namespace ratanka
