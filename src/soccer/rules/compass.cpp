@@ -2,10 +2,12 @@
 
 #include <array>
 
-#include "soccer/rules/computer.h"
-
 namespace ratanka::soccer {
 namespace {
+
+// The outer width of the window of a match against the computer, in twips. The computer's thirds
+// are thirds of it.
+constexpr int kOuterWidth = 12000;
 
 // What stands in the table: directions to hold, or a rule that looks closer.
 struct Answer {
