@@ -52,7 +52,7 @@ MazeFile readMaze(const std::string& path) {
   QFile file(text(path));
   if (!file.open(QIODevice::ReadOnly)) return MazeError{};
   const QByteArray bytes = file.read(kMaxFileBytes + 1);
-  return parseMaze({bytes.data(), static_cast<std::size_t>(bytes.size())});
+  return parseMaze(std::string_view(bytes.data(), bytes.size()));
 }
 
 }  // namespace

@@ -82,9 +82,9 @@ void Piškôrky::build() {
 
 void Piškôrky::buildBoard() {
   for (int index = 0; index < kCells; ++index) {
-    const int left = kCellLefts.at(static_cast<std::size_t>(index % 3));
-    const int top = kCellTops.at(static_cast<std::size_t>(index / 3));
-    const ScreenPoint& middle = kMiddles.at(static_cast<std::size_t>(index));
+    const int left = kCellLefts.at(index % 3);
+    const int top = kCellTops.at(index / 3);
+    const ScreenPoint& middle = kMiddles.at(index);
     QLabel* const cell =
         addLabel(client(), {.name = indexed("s", index),
                             .place = {left, top, 615, 615},
@@ -95,17 +95,16 @@ void Piškôrky::buildBoard() {
                             .middle = ScreenPoint{middle.x - pixels(left), middle.y - pixels(top)},
                             .align = Qt::AlignCenter});
     on(new Clicks(*cell), &Clicks::clicked, [this, index] { s_Click(index); });
-    s_.at(static_cast<std::size_t>(index)) = cell;
+    s_.at(index) = cell;
   }
   int number = 0;
   for (const Stroke& stroke : kGrid) {
     addLine(client(), line("Line" + QString::number(++number), stroke, kRed));
   }
   for (int index = 0; index < kLines; ++index) {
-    const auto at = static_cast<std::size_t>(index);
-    LineDesign design = line(indexed("Line5", index), kStrokes.at(at), kYellow);
+    LineDesign design = line(indexed("Line5", index), kStrokes.at(index), kYellow);
     design.visible = false;
-    strokes_.at(at) = addLine(client(), design);
+    strokes_.at(index) = addLine(client(), design);
   }
 }
 
@@ -169,7 +168,7 @@ void Piškôrky::Command2_Click() { forms().drop(names::Piškôrky); }
 
 void Piškôrky::refresh() {
   for (int index = 0; index < kCells; ++index) {
-    QLabel& cell = *s_.at(static_cast<std::size_t>(index));
+    QLabel& cell = *s_.at(index);
     const QString mark = ratanka::text(piskorky::text(game_.s(index)));
     cell.setText(mark);
     cell.setAccessibleName("Políčko " + QString::number(index + 1) + ": " +

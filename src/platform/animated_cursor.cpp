@@ -76,8 +76,8 @@ int countPictures(Bytes frame) {
 // A frame's pictures from the smallest to the largest; empty when one can't be read.
 std::vector<QImage> decode(Bytes frame) {
   const int count = countPictures(frame);
-  QByteArray bytes = QByteArray::fromRawData(reinterpret_cast<const char*>(frame.data()),
-                                             static_cast<qsizetype>(frame.size()));
+  QByteArray bytes =
+      QByteArray::fromRawData(reinterpret_cast<const char*>(frame.data()), frame.size());
   QBuffer buffer(&bytes);
   QImageReader reader(&buffer, "ico");
   reader.setAutoDetectImageFormat(false);
@@ -99,8 +99,8 @@ std::vector<std::vector<QImage>> decodeSteps(const AniContainer& container) {
   std::vector<std::vector<QImage>> steps;
   for (std::size_t step = 0; step < count; ++step) {
     const auto begin = container.steps.begin();
-    const auto here = begin + static_cast<std::ptrdiff_t>(step);
-    const auto seen = static_cast<std::size_t>(std::find(begin, here, *here) - begin);
+    const auto here = begin + step;
+    const std::size_t seen = std::find(begin, here, *here) - begin;
     steps.push_back(seen < step ? steps[seen] : decode(container.frames[*here]));
     if (steps.back().empty()) return {};
   }
@@ -119,8 +119,7 @@ AnimatedCursor AnimatedCursor::load(const QString& path) {
 
 AnimatedCursor AnimatedCursor::fromBytes(const QByteArray& file) {
   AnimatedCursor cursor;
-  const auto container =
-      parseAni(std::as_bytes(std::span(file.constData(), static_cast<std::size_t>(file.size()))));
+  const auto container = parseAni(std::as_bytes(std::span(file.constData(), file.size())));
   if (container && std::ranges::all_of(container->frames, countPictures)) {
     cursor.steps_ = decodeSteps(*container);
   }
@@ -129,7 +128,7 @@ AnimatedCursor AnimatedCursor::fromBytes(const QByteArray& file) {
 
 QImage AnimatedCursor::frame(int step, qreal pixelRatio) const {
   if (step < 0 || step >= steps()) return {};
-  const Pictures& pictures = steps_[static_cast<std::size_t>(step)];
+  const Pictures& pictures = steps_[step];
   const auto isSharp = [&](const QImage& picture) { return picture.width() >= kSize * pixelRatio; };
   const auto sharp = std::ranges::find_if(pictures, isSharp);
   return sharp == pictures.end() ? pictures.back() : *sharp;

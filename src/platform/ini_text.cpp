@@ -80,7 +80,7 @@ std::string withValue(std::string_view ini, std::string_view section, std::strin
     lines.back() = unended;
   }
   const Place place = find(lines, section, key);
-  const auto at = lines.begin() + static_cast<std::ptrdiff_t>(place.at);
+  const auto at = lines.begin() + place.at;
   const std::string header = std::string("[").append(section).append("]").append(end);
   if (place.hasKey) {
     *at = setting;

@@ -51,8 +51,8 @@ Tip handTip(double length, double angle) {
 }
 
 Rgb paletteColour(int index) {
-  const bool isKnown = index >= 0 && index < static_cast<int>(kPalette.size());
-  return kPalette.at(isKnown ? static_cast<std::size_t>(index) : 0);
+  const bool isKnown = index >= 0 && index < std::ssize(kPalette);
+  return kPalette.at(isKnown ? index : 0);
 }
 
 int storedNumber(std::string_view text) {

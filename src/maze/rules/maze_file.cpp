@@ -47,7 +47,7 @@ std::optional<int> takeNumber(std::string_view& text) {
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error == std::errc::invalid_argument) return std::nullopt;
-  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+  text.remove_prefix(end - text.data());
   return error == std::errc::result_out_of_range ? kMaxSize + 1 : number;
 }
 

@@ -73,7 +73,7 @@ struct Output {
       return;
     }
     port = connect();
-    if (port) port->openPort(static_cast<unsigned>(device), "Klavír");
+    if (port) port->openPort(device, "Klavír");
     isOpen = port && port->isPortOpen();
   }
 };
@@ -101,7 +101,7 @@ class MidiOutputs : public MidiOut {
   std::string midiOutGetDevCapsA(int device) override {
     return ask<std::string>([device] {
       const auto connection = connect();
-      return connection ? cut(connection->getPortName(static_cast<unsigned>(device))) : "";
+      return connection ? cut(connection->getPortName(device)) : "";
     });
   }
 

@@ -67,7 +67,7 @@ Held compassAnswer(const Situation& situation, int level) {
   const int point = GetDirection(situation.match.Red, situation.match.Ball);
   for (const Row& row : kCompass) {
     if (row.point != point) continue;
-    const Answer& answer = row.levels.at(static_cast<std::size_t>(level - 1));
+    const Answer& answer = row.levels.at(level - 1);
     return answer.rule == nullptr ? answer.held : answer.rule(situation);
   }
   return kNone;

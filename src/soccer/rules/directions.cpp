@@ -19,7 +19,7 @@ void MoveRedTowardsX(Held& held, const Match& match, const Piece& XObject) {
   // By the compass point, from 0 (the centres coincide: nowhere) to 16.
   constexpr std::array<int, 17> kDirections{0, 1, 2, 2, 2, 3, 4, 4, 4, 5, 6, 6, 6, 7, 8, 8, 8};
   const int point = GetDirection(match.Red, XObject);
-  SetPlayerDirection2(held, kDirections.at(static_cast<std::size_t>(point)));
+  SetPlayerDirection2(held, kDirections.at(point));
 }
 
 }  // namespace ratanka::soccer
