@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "platform/plain_text.h"
+
 namespace ratanka::clock {
 namespace {
 
@@ -56,7 +58,7 @@ Rgb paletteColour(int index) {
 }
 
 int storedNumber(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  text = trimmedLeft(text, " ");
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   long long number = 0;
   const auto end = std::from_chars(text.data(), text.data() + text.size(), number);
