@@ -22,8 +22,6 @@ constexpr Frame kFrame;
 constexpr Rgb kBack{0xcf, 0xa2, 0x6e};  // wood
 constexpr int kPageOfVolume = 16;
 
-QString indexed(const char* name, int index) { return QString("%1(%2)").arg(name).arg(index); }
-
 }  // namespace
 
 Klavír::Klavír(Forms& forms, Dialogs& dialogs, MidiOut& midiOut)

@@ -9,13 +9,9 @@
 namespace ratanka::piskorky {
 namespace {
 
-constexpr Rgb kBlack{0, 0, 0};
-constexpr Rgb kBlue{0, 0, 192};
-constexpr Rgb kWhite{255, 255, 255};
+constexpr Rgb kDarkBlue{0, 0, 192};
 constexpr Rgb kChalk{0xa8, 0xcf, 0xe8};  // blue on black is hard to see
 constexpr Rgb kGreen{0, 255, 0};
-constexpr Rgb kRed{255, 0, 0};
-constexpr Rgb kYellow{255, 255, 0};
 constexpr int kLineWidth = 4;
 
 constexpr std::array kCellLefts{240, 1080, 1800};
@@ -47,10 +43,6 @@ constexpr std::array<Stroke, kLines> kStrokes{{{120, 360, 2400, 360},
                                                {1920, 120, 1920, 2400},
                                                {240, 240, 2280, 2280},
                                                {120, 2280, 2280, 120}}};
-
-QString indexed(const char* name, int index) {
-  return QString(name) + '(' + QString::number(index) + ')';
-}
 
 LineDesign line(const QString& name, const Stroke& stroke, const Rgb& rgb) {
   return {.name = name,
@@ -89,7 +81,7 @@ void Piškôrky::buildBoard() {
         addLabel(client(), {.name = indexed("s", index),
                             .place = {left, top, 615, 615},
                             .type = {.points = 24},
-                            .fore = kBlue,
+                            .fore = kDarkBlue,
                             .back = kBlack,
                             .rim = kChalk,
                             .middle = ScreenPoint{middle.x - pixels(left), middle.y - pixels(top)},

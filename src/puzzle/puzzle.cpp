@@ -10,7 +10,7 @@
 namespace ratanka::puzzle {
 namespace {
 
-constexpr Rgb kYellow{255, 255, 192};
+constexpr Rgb kPaleYellow{255, 255, 192};
 
 // The colour of the row that a tile belongs to: rows are seen to grow together.
 constexpr std::array<Rgb, kMaxSize> kRowColours{{{0xff, 0xc9, 0x3c},
@@ -31,7 +31,7 @@ frmPuzzle::frmPuzzle(Forms& forms, Dialogs& dialogs, Random& random, Sound& soun
                    .caption = "Rátanka - hra Pucle",
                    .width = 4170,
                    .height = 5040,
-                   .back = kYellow,
+                   .back = kPaleYellow,
                    .hasMenu = true,
                    .opening = Opening::besideControls}),
       dialogs_(dialogs),
@@ -49,8 +49,8 @@ void frmPuzzle::build() {
 
 void frmPuzzle::buildBoard() {
   for (int index = 0; index < kButtons; ++index) {
-    Button* const tile = addButton(
-        client(), {.name = QString("cmdButton(%1)").arg(index), .place = {}, .visible = false});
+    Button* const tile =
+        addButton(client(), {.name = indexed("cmdButton", index), .place = {}, .visible = false});
     on(tile, &Button::wentDown, [this, index] { cmdButton_MouseDown(index); });
     cmdButton_.at(index) = tile;
   }

@@ -23,7 +23,6 @@ constexpr int kBookMilliseconds = 150;
 constexpr int kPauseMilliseconds = 3000;
 
 constexpr Rgb kGreen{0, 128, 0};
-constexpr Rgb kWhite{255, 255, 255};
 
 QString numbered(const char* name, int number) { return name + QString::number(number); }
 

@@ -17,12 +17,6 @@ constexpr std::array kPictureLefts{120, 1440, 2760, 4080, 5400};  // twips
 constexpr std::array kNameLefts{300, 1600, 2920, 4320, 5580};
 constexpr int kRaisedHeight = 1512;
 
-constexpr Rgb kYellow{255, 255, 0};
-
-QString indexed(const char* name, int index) {
-  return QString(name) + '(' + QString::number(index) + ')';
-}
-
 }  // namespace
 
 frmSelectPlayer::frmSelectPlayer(Forms& forms, Declarations& declarations)

@@ -5,11 +5,11 @@
 #include <span>
 
 #include "blocks/rules/pieces.h"
+#include "platform/colours.h"
 
 namespace ratanka::blocks {
 namespace {
 
-constexpr Rgb kBlack{0, 0, 0};
 constexpr int kLast = kTileSize - 1;
 
 struct Pixel {
