@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/sound/riff.h"
+#include "platform/riff.h"
 
 namespace ratanka {
 namespace {

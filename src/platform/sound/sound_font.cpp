@@ -5,7 +5,7 @@
 #include <fstream>
 #include <optional>
 
-#include "platform/sound/riff.h"
+#include "platform/riff.h"
 
 namespace ratanka {
 namespace {
