@@ -14,10 +14,6 @@
 namespace ratanka::blocks {
 namespace {
 
-constexpr Rgb kWhite{255, 255, 255};
-constexpr Rgb kBlack{0, 0, 0};
-constexpr Rgb kPaper{0xff, 0xfd, 0xf5};
-
 constexpr int kFrame = 2;  // round board and preview, in logical pixels
 
 constexpr auto kMusic = "Tetris.mid";

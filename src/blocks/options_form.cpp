@@ -11,11 +11,6 @@
 #include "shell/names.h"
 
 namespace ratanka::blocks {
-namespace {
-
-constexpr Rgb kCard{0xf3, 0xed, 0xdf};
-
-}  // namespace
 
 frmOptions::frmOptions(Forms& forms, Dialogs& dialogs, Options& options, QString settingsFile)
     : Form(forms, {.name = names::frmOptions,

@@ -44,7 +44,6 @@ void Hodiny::build() {
                                       .back = back,
                                       .align = Qt::AlignCenter});
   };
-  constexpr Rgb kWhite{255, 255, 255};
   counters_ = {counter("Label1", 1200, {}), counter("Label2", 1560, kWhite),
                counter("Label3", 2040, kWhite)};
   on(new Clicks(*picBackGround_), &Clicks::clicked, [this] { picBackGround_Click(); });

@@ -19,8 +19,8 @@ constexpr int kFigure = 32;  // larger than a cell: it reaches into the cells ar
 constexpr int kReach = (kFigure - kCell) / 2;
 
 constexpr Rgb kWall{128, 128, 128};
-constexpr Rgb kWay{255, 255, 255};
-constexpr Rgb kGoal{255, 255, 0};
+constexpr Rgb kWay = kWhite;
+constexpr Rgb kGoal = kYellow;
 
 QRect cellArea(const Cell& cell) {
   return {(cell.Col - 1) * kCell, (cell.Row - 1) * kCell, kCell, kCell};
@@ -52,7 +52,7 @@ MazeFile readMaze(const std::string& path) {
   QFile file(text(path));
   if (!file.open(QIODevice::ReadOnly)) return MazeError{};
   const QByteArray bytes = file.read(kMaxFileBytes + 1);
-  return parseMaze({bytes.data(), static_cast<std::size_t>(bytes.size())});
+  return parseMaze(std::string_view(bytes.data(), bytes.size()));
 }
 
 }  // namespace

@@ -22,10 +22,6 @@ constexpr Frame kFrame;
 constexpr Rgb kBack{0xcf, 0xa2, 0x6e};  // wood
 constexpr int kPageOfVolume = 16;
 
-QString indexed(const char* name, std::size_t index) {
-  return QString("%1(%2)").arg(name).arg(index);
-}
-
 }  // namespace
 
 Klavír::Klavír(Forms& forms, Dialogs& dialogs, MidiOut& midiOut)
@@ -56,12 +52,11 @@ void Klavír::build() {
 
 void Klavír::buildKeys() {
   for (const bool isBlack : {false, true}) {  // the black ones in front
-    for (std::size_t index = 0; index < kKeyboard.size(); ++index) {
+    for (int index = 0; index < kKeys; ++index) {
       const Key& key = kKeyboard.at(index);
       if (key.isBlack != isBlack) continue;
-      key_.at(index) = addPianoKey(
-          client(), indexed("key", index), key,
-          [this, number = static_cast<int>(index)](bool isDown) { key_Touched(number, isDown); });
+      key_.at(index) = addPianoKey(client(), indexed("key", index), key,
+                                   [this, index](bool isDown) { key_Touched(index, isDown); });
     }
   }
 }
@@ -85,20 +80,18 @@ void Klavír::buildVolume() {
 void Klavír::buildMenu() {
   QMenu& devices = *addMenu(menuBar(), "midi_devices", "Zvuk Midi");
   device_.clear();
-  for (std::size_t index = 0; index <= kMaxDevices; ++index) {
+  for (int index = 0; index <= kMaxDevices; ++index) {
     device_.push_back(addMenuItem(
         devices, {.name = indexed("device", index), .visible = false, .checkable = true}));
-    on(device_.back(), &QAction::triggered,
-       [this, number = static_cast<int>(index)] { device_Click(number); });
+    on(device_.back(), &QAction::triggered, [this, index] { device_Click(index); });
   }
   QMenu& channels = *addMenu(menuBar(), "ChannelOption", "Kanál");
   chan_.clear();
-  for (std::size_t index = 0; index < kChannels; ++index) {
+  for (int index = 0; index < kChannels; ++index) {
     chan_.push_back(addMenuItem(channels, {.name = indexed("chan", index),
                                            .caption = QString::number(index + 1),
                                            .checkable = true}));
-    on(chan_.back(), &QAction::triggered,
-       [this, number = static_cast<int>(index)] { chan_Click(number); });
+    on(chan_.back(), &QAction::triggered, [this, index] { chan_Click(index); });
   }
   QAction* const base = addMenuItem(menuBar(), {.name = "base", .caption = "Výška tónu"});
   on(base, &QAction::triggered, [this] { base_Click(); });
@@ -165,18 +158,18 @@ void Klavír::vol_Change() { piano_.setVolume(vol_->value()); }
 
 void Klavír::refresh() {
   for (int index = 0; index < kKeys; ++index) {
-    key_.at(static_cast<std::size_t>(index))->setChecked(piano_.isPressed(index));
+    key_.at(index)->setChecked(piano_.isPressed(index));
   }
   const std::vector<std::string>& names = piano_.deviceNames();
-  for (std::size_t index = 0; index < device_.size(); ++index) {
+  for (int index = 0; index < std::ssize(device_); ++index) {
     QAction& item = *device_.at(index);
-    item.setVisible(index < names.size());
+    item.setVisible(index < std::ssize(names));
     // An "&" would underline a letter.
-    if (index < names.size()) item.setText(ratanka::text(names.at(index)).replace("&", "&&"));
-    item.setChecked(static_cast<int>(index) == piano_.curDevice() + 1);
+    if (index < std::ssize(names)) item.setText(ratanka::text(names.at(index)).replace("&", "&&"));
+    item.setChecked(index == piano_.curDevice() + 1);
   }
-  for (std::size_t index = 0; index < chan_.size(); ++index) {
-    chan_.at(index)->setChecked(static_cast<int>(index) == piano_.channel());
+  for (int index = 0; index < std::ssize(chan_); ++index) {
+    chan_.at(index)->setChecked(index == piano_.channel());
   }
 }
 

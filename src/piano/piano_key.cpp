@@ -17,10 +17,8 @@ constexpr int kWhiteHeight = 2175;
 constexpr int kBlackWidth = 255;
 constexpr int kBlackHeight = 1335;
 
-constexpr Rgb kPaper{0xff, 0xfd, 0xf5};
 constexpr Rgb kPaperShade{0xdc, 0xd3, 0xc0};
 constexpr Rgb kPressedPaper{0xff, 0xe3, 0x9a};
-constexpr Rgb kEbony{0x22, 0x30, 0x4a};
 constexpr Rgb kPressedEbony{0x8e, 0x5c, 0xb8};
 constexpr Rgb kEbonyShade{0x12, 0x1a, 0x2a};
 
@@ -53,7 +51,7 @@ class PianoKey : public QAbstractButton {
     painter.setBrush(colour(isBlack_ ? kEbonyShade : kPaperShade));
     painter.drawRoundedRect(all, kCorner, kCorner);
     painter.setBrush(colour(isChecked() ? (isBlack_ ? kPressedEbony : kPressedPaper)
-                                        : (isBlack_ ? kEbony : kPaper)));
+                                        : (isBlack_ ? kInkColour : kPaper)));
     painter.drawRoundedRect(all.adjusted(0, 0, 0, -front), kCorner, kCorner);
     painter.setPen(isBlack_ ? QColor(Qt::white) : colour(kInkColour));
     painter.setFont(font());

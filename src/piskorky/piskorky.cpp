@@ -9,13 +9,9 @@
 namespace ratanka::piskorky {
 namespace {
 
-constexpr Rgb kBlack{0, 0, 0};
-constexpr Rgb kBlue{0, 0, 192};
-constexpr Rgb kWhite{255, 255, 255};
+constexpr Rgb kDarkBlue{0, 0, 192};
 constexpr Rgb kChalk{0xa8, 0xcf, 0xe8};  // blue on black is hard to see
 constexpr Rgb kGreen{0, 255, 0};
-constexpr Rgb kRed{255, 0, 0};
-constexpr Rgb kYellow{255, 255, 0};
 constexpr int kLineWidth = 4;
 
 constexpr std::array kCellLefts{240, 1080, 1800};
@@ -48,10 +44,6 @@ constexpr std::array<Stroke, kLines> kStrokes{{{120, 360, 2400, 360},
                                                {240, 240, 2280, 2280},
                                                {120, 2280, 2280, 120}}};
 
-QString indexed(const char* name, int index) {
-  return QString(name) + '(' + QString::number(index) + ')';
-}
-
 LineDesign line(const QString& name, const Stroke& stroke, const Rgb& rgb) {
   return {.name = name,
           .x1 = stroke.x1,
@@ -82,30 +74,29 @@ void Piškôrky::build() {
 
 void Piškôrky::buildBoard() {
   for (int index = 0; index < kCells; ++index) {
-    const int left = kCellLefts.at(static_cast<std::size_t>(index % 3));
-    const int top = kCellTops.at(static_cast<std::size_t>(index / 3));
-    const ScreenPoint& middle = kMiddles.at(static_cast<std::size_t>(index));
+    const int left = kCellLefts.at(index % 3);
+    const int top = kCellTops.at(index / 3);
+    const ScreenPoint& middle = kMiddles.at(index);
     QLabel* const cell =
         addLabel(client(), {.name = indexed("s", index),
                             .place = {left, top, 615, 615},
                             .type = {.points = 24},
-                            .fore = kBlue,
+                            .fore = kDarkBlue,
                             .back = kBlack,
                             .rim = kChalk,
                             .middle = ScreenPoint{middle.x - pixels(left), middle.y - pixels(top)},
                             .align = Qt::AlignCenter});
     on(new Clicks(*cell), &Clicks::clicked, [this, index] { s_Click(index); });
-    s_.at(static_cast<std::size_t>(index)) = cell;
+    s_.at(index) = cell;
   }
   int number = 0;
   for (const Stroke& stroke : kGrid) {
     addLine(client(), line("Line" + QString::number(++number), stroke, kRed));
   }
   for (int index = 0; index < kLines; ++index) {
-    const auto at = static_cast<std::size_t>(index);
-    LineDesign design = line(indexed("Line5", index), kStrokes.at(at), kYellow);
+    LineDesign design = line(indexed("Line5", index), kStrokes.at(index), kYellow);
     design.visible = false;
-    strokes_.at(at) = addLine(client(), design);
+    strokes_.at(index) = addLine(client(), design);
   }
 }
 
@@ -169,7 +160,7 @@ void Piškôrky::Command2_Click() { forms().drop(names::Piškôrky); }
 
 void Piškôrky::refresh() {
   for (int index = 0; index < kCells; ++index) {
-    QLabel& cell = *s_.at(static_cast<std::size_t>(index));
+    QLabel& cell = *s_.at(index);
     const QString mark = ratanka::text(piskorky::text(game_.s(index)));
     cell.setText(mark);
     cell.setAccessibleName("Políčko " + QString::number(index + 1) + ": " +

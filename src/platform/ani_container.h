@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <span>
+#include <string_view>
 #include <vector>
 
 namespace ratanka {
@@ -16,8 +16,8 @@ inline constexpr std::size_t kMaxAniSteps = 1024;
 // an icon or cursor file, as it stands in the animation; it points into the bytes that were parsed
 // and lives no longer than they do.
 struct AniContainer {
-  std::vector<std::span<const std::byte>> frames;  // 1 to kMaxAniFrames, maybe empty ones
-  std::vector<std::uint32_t> steps;  // 1 to kMaxAniSteps indices into frames, in playing order
+  std::vector<std::string_view> frames;  // 1 to kMaxAniFrames, maybe empty ones
+  std::vector<std::uint32_t> steps;      // 1 to kMaxAniSteps indices into frames, in playing order
 };
 
 // Parses a RIFF file of the form ACON. Chunks that an animation doesn't need (titles, rates, what
@@ -27,6 +27,6 @@ struct AniContainer {
 // is there; when the header or the frames are missing, there twice, or disagree about how many
 // frames there are; when a step names a frame that isn't there; when the frames are raw pixels
 // without an icon around them; when a limit above is passed.
-std::optional<AniContainer> parseAni(std::span<const std::byte> file);
+std::optional<AniContainer> parseAni(std::string_view file);
 
 }  // namespace ratanka

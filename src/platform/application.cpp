@@ -25,8 +25,6 @@ constexpr std::chrono::milliseconds kIconDelay{300};
 
 constexpr qreal kCorner = 3;  // of a button, in logical pixels
 
-constexpr Rgb kPaper{0xff, 0xfd, 0xf5};
-constexpr Rgb kCard{0xf3, 0xed, 0xdf};
 constexpr Rgb kSky{0x2f, 0x7f, 0xb4};
 constexpr Rgb kFaded{0x9a, 0xa2, 0xb0};    // what can't be chosen now
 constexpr Rgb kCaption{0x0c, 0x12, 0x20};  // deep enough to read on a pure red

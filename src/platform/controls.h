@@ -10,6 +10,7 @@
 #include <functional>
 #include <optional>
 
+#include "platform/colours.h"
 #include "platform/fonts.h"
 #include "platform/units.h"
 
@@ -20,7 +21,10 @@ namespace ratanka {
 
 inline QColor colour(const Rgb& rgb) { return {rgb.red, rgb.green, rgb.blue}; }
 
-inline constexpr Rgb kInkColour{0x22, 0x30, 0x4a};
+// The name of a control that is one of an array: name(index).
+inline QString indexed(const char* name, int index) {
+  return QString("%1(%2)").arg(name).arg(index);
+}
 
 // In logical pixels.
 QRect rectangle(const Place& place);

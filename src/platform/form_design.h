@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include "platform/colours.h"
 #include "platform/form_name.h"
 #include "platform/units.h"
 
@@ -21,7 +22,7 @@ struct FormDesign {
   int width = 0;  // of the client area, in twips
   int height = 0;
   bool hasBorder = true;
-  Rgb back{255, 255, 255};
+  Rgb back = kWhite;
   QString picture{};        // drawn in the upper left corner; none where empty
   PixelSize pictureSize{};  // in logical pixels
   bool takesKeyboard = true;

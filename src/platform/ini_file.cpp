@@ -26,7 +26,7 @@ void sweep(const QDir& folder) {
 // By a draft that takes the file's place once all of it is on the disk; where it doesn't fit the
 // old one stays. The toolkit's own file of this kind doesn't notice a disk that is full.
 void replace(const QFileInfo& old, const std::string& content) {
-  const auto size = static_cast<qint64>(content.size());
+  const qint64 size = content.size();
   QTemporaryFile draft(old.dir().filePath(QString(kDraft) + "XXXXXX"));
   if (!draft.open() || draft.write(content.data(), size) != size) return;
   if (!draft.flush() || fsync(draft.handle()) != 0) return;

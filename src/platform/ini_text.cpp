@@ -3,14 +3,12 @@
 #include <algorithm>
 #include <vector>
 
+#include "platform/plain_text.h"
+
 namespace ratanka {
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n";
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
+std::string_view trimmed(std::string_view text) { return ratanka::trimmed(text, " \t\r\n"); }
 
 bool isSame(std::string_view one, std::string_view other) {
   const auto lower = [](char sign) {
@@ -80,7 +78,7 @@ std::string withValue(std::string_view ini, std::string_view section, std::strin
     lines.back() = unended;
   }
   const Place place = find(lines, section, key);
-  const auto at = lines.begin() + static_cast<std::ptrdiff_t>(place.at);
+  const auto at = lines.begin() + place.at;
   const std::string header = std::string("[").append(section).append("]").append(end);
   if (place.hasKey) {
     *at = setting;

@@ -5,19 +5,12 @@
 #include <string>
 #include <system_error>
 
+#include "platform/plain_text.h"
+
 namespace ratanka {
-namespace {
-
-std::string_view withoutBlanks(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-  return text.substr(0, text.find_last_not_of(kBlanks) + 1);
-}
-
-}  // namespace
 
 std::optional<double> numberIn(std::string_view text) {
-  std::string number(withoutBlanks(text));
+  std::string number(trimmed(text, " \t"));
   std::ranges::replace(number, ',', '.');
   if (number.starts_with('+') && !number.starts_with("+-")) number.erase(0, 1);
   // Keeps out the words that the conversion would take.

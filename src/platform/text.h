@@ -6,8 +6,6 @@
 namespace ratanka {
 
 // UTF-8 as the rules speak it, as the toolkit's text.
-inline QString text(std::string_view utf8) {
-  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-}
+inline QString text(std::string_view utf8) { return QString::fromUtf8(utf8.data(), utf8.size()); }
 
 }  // namespace ratanka

@@ -10,7 +10,7 @@
 namespace ratanka::puzzle {
 namespace {
 
-constexpr Rgb kYellow{255, 255, 192};
+constexpr Rgb kPaleYellow{255, 255, 192};
 
 // The colour of the row that a tile belongs to: rows are seen to grow together.
 constexpr std::array<Rgb, kMaxSize> kRowColours{{{0xff, 0xc9, 0x3c},
@@ -31,7 +31,7 @@ frmPuzzle::frmPuzzle(Forms& forms, Dialogs& dialogs, Random& random, Sound& soun
                    .caption = "Rátanka - hra Pucle",
                    .width = 4170,
                    .height = 5040,
-                   .back = kYellow,
+                   .back = kPaleYellow,
                    .hasMenu = true,
                    .opening = Opening::besideControls}),
       dialogs_(dialogs),
@@ -49,10 +49,10 @@ void frmPuzzle::build() {
 
 void frmPuzzle::buildBoard() {
   for (int index = 0; index < kButtons; ++index) {
-    Button* const tile = addButton(
-        client(), {.name = QString("cmdButton(%1)").arg(index), .place = {}, .visible = false});
+    Button* const tile =
+        addButton(client(), {.name = indexed("cmdButton", index), .place = {}, .visible = false});
     on(tile, &Button::wentDown, [this, index] { cmdButton_MouseDown(index); });
-    cmdButton_.at(static_cast<std::size_t>(index)) = tile;
+    cmdButton_.at(index) = tile;
   }
 }
 
@@ -104,7 +104,7 @@ void frmPuzzle::cmdButton_MouseDown(int index) {
   const Game::Press press = game_.press(index);
   refresh();
   if (press.movedTo) {
-    cmdButton_.at(static_cast<std::size_t>(*press.movedTo))->setFocus();
+    cmdButton_.at(*press.movedTo)->setFocus();
     play("Pucle1.wav");
   }
   if (press.time) end(*press.time);
@@ -155,7 +155,7 @@ void frmPuzzle::refresh() {
 void frmPuzzle::refreshTile(int index) {
   constexpr double kPointsOfSide = 0.3;  // figures take two fifths of a tile
   const Board& board = game_.board();
-  Button& tile = *cmdButton_.at(static_cast<std::size_t>(index));
+  Button& tile = *cmdButton_.at(index);
   tile.setText(ratanka::text(board.caption(index)));
   tile.setVisible(board.isVisible(index));
   if (!board.isVisible(index)) return;
@@ -165,7 +165,7 @@ void frmPuzzle::refreshTile(int index) {
   }
   tile.setGeometry(area.left, area.top, area.side, area.side);
   const int row = (board.number(index) - 1) / board.Size();
-  setFace(tile, kRowColours.at(static_cast<std::size_t>(row)));
+  setFace(tile, kRowColours.at(row));
 }
 
 }  // namespace ratanka::puzzle

@@ -35,7 +35,6 @@ constexpr int kLineHeight = 450;
 constexpr int kTitleLeft = 600;
 constexpr int kMarkLeft = 4050;
 constexpr int kLineRight = 4800;
-constexpr Rgb kBlue{0, 0, 255};
 constexpr Rgb kRule{0x66, 0xb8, 0xe8};
 
 }  // namespace

@@ -124,7 +124,7 @@ void ExerciseSheet::refresh() {
   show(*nesprávne_, "Nesprávne odpovede: ", worksheet_.Nesprávne().shown);
   if (const std::optional<int> mark = worksheet_.mark()) {
     show(*mark_, "Známka: ", *mark);
-    setBackReadably(*mark_, design_.markColours->back.at(static_cast<std::size_t>(*mark - 1)));
+    setBackReadably(*mark_, design_.markColours->back.at(*mark - 1));
   }
   reward_->setVisible(worksheet_.isRewarded());
 }

@@ -63,7 +63,7 @@ class ExerciseSheet : public Form {
   // Lets a listener hear how a row was judged.
   void tell(int row);
 
-  RowControls& controls(int row) { return rows_.at(static_cast<std::size_t>(row - 1)); }
+  RowControls& controls(int row) { return rows_.at(row - 1); }
 
   SheetServices services_;
   SheetDesign design_;

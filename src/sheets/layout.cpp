@@ -23,7 +23,6 @@ constexpr int kBookMilliseconds = 150;
 constexpr int kPauseMilliseconds = 3000;
 
 constexpr Rgb kGreen{0, 128, 0};
-constexpr Rgb kWhite{255, 255, 255};
 
 QString numbered(const char* name, int number) { return name + QString::number(number); }
 
@@ -57,7 +56,7 @@ RowDesigns hiddenOperandRows() {
   return eachRow([&](int row) -> RowDesign {
     const bool hidesFirst = hádanka::hidesFirst(row);
     const bool judgedOnTheLeft = hidesFirst || row == 8;
-    const int known = kKnownLabel.at(static_cast<std::size_t>(row - 1));
+    const int known = kKnownLabel.at(row - 1);
     const int sign = 4 * row - 2;
     return {.first = {known, hidesFirst ? 2640 : 1080, 705},
             .sign = {sign, 2040, 465},
@@ -79,7 +78,7 @@ void ExerciseSheet::build() {
 }
 
 void ExerciseSheet::buildRow(int row) {
-  const RowDesign& design = design_.rows.at(static_cast<std::size_t>(row - 1));
+  const RowDesign& design = design_.rows.at(row - 1);
   const int top = kFirstRowTop + kRowPitch * (row - 1);
   const auto exampleLabel = [this, top](const RowLabel& label, const Type& type) -> QLabel* {
     if (label.number == 0) return nullptr;

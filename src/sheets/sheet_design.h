@@ -80,7 +80,7 @@ struct SheetDesign {
   QString bookTimer = "Timer3";
   RewardDesign reward;
   bool countersHaveTooltips = false;
-  Rgb wrongColour{255, 0, 0};
+  Rgb wrongColour = kRed;
   Place markPlace{1920, 6840, 615, 495};
   const MarkColours* markColours = &kColoursA;
   int bookWidth = 615;                  // twips

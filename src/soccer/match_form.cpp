@@ -14,9 +14,6 @@ namespace ratanka::soccer {
 namespace {
 
 constexpr Rgb kGrass{0, 128, 0};
-constexpr Rgb kWhite{255, 255, 255};
-constexpr Rgb kRed{255, 0, 0};
-constexpr Rgb kBlue{0, 0, 255};
 constexpr int kLineWidth = 2;
 constexpr int kGoalWidth = 6;
 

@@ -27,8 +27,6 @@ struct Cancel {
 constexpr Cancel kCancels[] = {
     {'A', &Held::left}, {'D', &Held::right}, {'W', &Held::up}, {'S', &Held::down}};
 
-constexpr Rgb kWhite{255, 255, 255};
-
 }  // namespace
 
 frmPlayer1::frmPlayer1(Forms& forms, Dialogs& dialogs, Random& random, Declarations& declarations)

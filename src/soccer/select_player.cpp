@@ -17,12 +17,6 @@ constexpr std::array kPictureLefts{120, 1440, 2760, 4080, 5400};  // twips
 constexpr std::array kNameLefts{300, 1600, 2920, 4320, 5580};
 constexpr int kRaisedHeight = 1512;
 
-constexpr Rgb kYellow{255, 255, 0};
-
-QString indexed(const char* name, int index) {
-  return QString(name) + '(' + QString::number(index) + ')';
-}
-
 }  // namespace
 
 frmSelectPlayer::frmSelectPlayer(Forms& forms, Declarations& declarations)
@@ -35,25 +29,24 @@ frmSelectPlayer::frmSelectPlayer(Forms& forms, Declarations& declarations)
       declarations_(declarations) {}
 
 void frmSelectPlayer::build() {
-  for (std::size_t at = 0; at < kOpponents; ++at) {
-    picOpponent_.at(at) = addOpponent(static_cast<int>(at) + 1, kPictureLefts.at(at));
+  for (int index = 1; index <= kOpponents; ++index) {
+    picOpponent_.at(index - 1) = addOpponent(index, kPictureLefts.at(index - 1));
   }
-  for (std::size_t at = 0; at < kOpponents; ++at) {
-    const int index = static_cast<int>(at) + 1;
-    lblName_.at(at) =
+  for (int index = 1; index <= kOpponents; ++index) {
+    lblName_.at(index - 1) =
         addLabel(client(), {.name = indexed("lblName", index),
-                            .place = {kNameLefts.at(at), 1280, 960, 270},
+                            .place = {kNameLefts.at(index - 1), 1280, 960, 270},
                             .caption = ratanka::text(opponentName(index)),
                             .type = {.family = "Comic Sans MS", .points = 9.75, .bold = true},
                             .fore = kYellow,
                             .align = Qt::AlignHCenter});
-    lblName_.at(at)->setAttribute(Qt::WA_TransparentForMouseEvents);
+    lblName_.at(index - 1)->setAttribute(Qt::WA_TransparentForMouseEvents);
   }
 }
 
 QWidget* frmSelectPlayer::addOpponent(int index, int left) {
   const auto paint = [this, index](QPainter& painter, const QRect&) {
-    const QWidget& box = *picOpponent_.at(static_cast<std::size_t>(index) - 1);
+    const QWidget& box = *picOpponent_.at(index - 1);
     painter.drawPixmap(
         0, 0, picture("opponent-" + QString::number(index), box.size(), box.devicePixelRatioF()));
     if (bordered_ != index) return;
@@ -84,7 +77,7 @@ void frmSelectPlayer::backToTitle() {
 void frmSelectPlayer::picOpponent_MouseMove(int index) {
   if (bordered_ == index) return;
   bordered_ = index;
-  QWidget& box = *picOpponent_.at(static_cast<std::size_t>(index) - 1);
+  QWidget& box = *picOpponent_.at(index - 1);
   box.raise();
   box.resize(box.width(), pixels(kRaisedHeight));
   for (QLabel* const name : lblName_) name->raise();

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 
 #include "platform/form.h"
 #include "soccer/rules/declarations.h"
@@ -10,7 +9,7 @@ class QLabel;
 
 namespace ratanka::soccer {
 
-inline constexpr std::size_t kOpponents = 5;
+inline constexpr int kOpponents = 5;
 
 // The window in which a child picks an opponent, and with him the level of the computer.
 class frmSelectPlayer : public Form {

@@ -8,10 +8,8 @@
 namespace ratanka::soccer {
 namespace {
 
-constexpr Rgb kBlack{0, 0, 0};
-constexpr Rgb kYellow{255, 255, 0};
-constexpr Rgb kRed{255, 80, 72};  // both light enough to read on black
-constexpr Rgb kBlue{104, 168, 255};
+constexpr Rgb kLightRed{255, 80, 72};  // both light enough to read on black
+constexpr Rgb kLightBlue{104, 168, 255};
 constexpr Rgb kRedButton{255, 112, 104};
 constexpr Rgb kBlueButton{124, 180, 255};
 
@@ -25,20 +23,20 @@ struct Text {
   const char* caption;
   Rgb fore;
 };
-constexpr Text kTexts[] = {{"lControls(1)", 345, kHeadings, "2 hráči proti sebe", kRed},
-                           {"lControls(5)", 480, kRows[0], "Hore:", kRed},
-                           {"lControls(4)", 480, kRows[1], "Dole:", kRed},
-                           {"lControls(3)", 480, kRows[2], "V ľavo:", kRed},
-                           {"lControls(6)", 480, kRows[3], "V pravo:", kRed},
-                           {"lControls(9)", 1845, kRows[0], "W", kRed},
-                           {"lControls(10)", 1890, kRows[1], "S", kRed},
-                           {"lControls(12)", 1890, kRows[2], "A", kRed},
-                           {"lControls(11)", 1890, kRows[3], "D", kRed},
-                           {"lControls(2)", 3480, kHeadings, "1 hráč proti počítaču", kBlue},
-                           {"lControls(0)", 3600, kRows[0], "Hore:", kBlue},
-                           {"lControls(25)", 3600, kRows[1], "Dole:", kBlue},
-                           {"lControls(26)", 3600, kRows[2], "V pravo:", kBlue},
-                           {"lControls(23)", 3600, kRows[3], "V ľavo:", kBlue}};
+constexpr Text kTexts[] = {{"lControls(1)", 345, kHeadings, "2 hráči proti sebe", kLightRed},
+                           {"lControls(5)", 480, kRows[0], "Hore:", kLightRed},
+                           {"lControls(4)", 480, kRows[1], "Dole:", kLightRed},
+                           {"lControls(3)", 480, kRows[2], "V ľavo:", kLightRed},
+                           {"lControls(6)", 480, kRows[3], "V pravo:", kLightRed},
+                           {"lControls(9)", 1845, kRows[0], "W", kLightRed},
+                           {"lControls(10)", 1890, kRows[1], "S", kLightRed},
+                           {"lControls(12)", 1890, kRows[2], "A", kLightRed},
+                           {"lControls(11)", 1890, kRows[3], "D", kLightRed},
+                           {"lControls(2)", 3480, kHeadings, "1 hráč proti počítaču", kLightBlue},
+                           {"lControls(0)", 3600, kRows[0], "Hore:", kLightBlue},
+                           {"lControls(25)", 3600, kRows[1], "Dole:", kLightBlue},
+                           {"lControls(26)", 3600, kRows[2], "V pravo:", kLightBlue},
+                           {"lControls(23)", 3600, kRows[3], "V ľavo:", kLightBlue}};
 
 struct Arrow {
   const char* name;

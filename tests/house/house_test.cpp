@@ -97,6 +97,30 @@ TEST(House, ArrowsRunDownward) {
   }
 }
 
+// Whether what a header and its source include leads back to the two of them.
+bool isInCircle(const std::string& unit, const std::string& from, std::set<std::string>& seen) {
+  const auto unitOf = [](const std::string& path) { return path.substr(0, path.rfind('.')); };
+  for (const Source& source : house()) {
+    if (unitOf(source.path) != from) continue;
+    for (const std::string& include : source.includes) {
+      const std::string next = unitOf(include);
+      if (next == from) continue;
+      if (next == unit) return true;
+      if (seen.insert(next).second && isInCircle(unit, next, seen)) return true;
+    }
+  }
+  return false;
+}
+
+TEST(House, NoRulesRunInACircle) {
+  for (const Source& source : house()) {
+    if (!source.isRules || !source.path.ends_with(".h")) continue;
+    const std::string unit = source.path.substr(0, source.path.rfind('.'));
+    std::set<std::string> seen;
+    EXPECT_FALSE(isInCircle(unit, unit, seen)) << unit << " is above itself";
+  }
+}
+
 TEST(House, RulesKnowNoWindowNoClockAndNoChanceOfTheirOwn) {
   const std::regex kForbidden(
       "\\b(rand|srand|time|clock)\\s*\\(|"

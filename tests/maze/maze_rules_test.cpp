@@ -228,7 +228,7 @@ TEST_F(OurMazeTest, AChildWhoKeepsToTheWallComesToTheFinish) {
   Walk walk(maze);
   std::size_t heading = 0;
   int steps = 0;
-  for (; !walk.isAtFinish() && steps < 4 * static_cast<int>(maze.cells()); ++steps) {
+  for (; !walk.isAtFinish() && steps < 4 * maze.cells(); ++steps) {
     heading = (heading + 3) % 4;  // first to the left hand
     for (int turn = 0; turn < 4 && !walk.step(kDirections[heading]); ++turn)
       heading = (heading + 1) % 4;

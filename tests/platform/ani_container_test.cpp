@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <initializer_list>
-#include <span>
 #include <string>
 
 namespace ratanka {
@@ -40,12 +39,12 @@ std::string ani(const std::string& chunks) { return chunk("RIFF", "ACON" + chunk
 
 // "A,BB|0 1": the frames' bytes, then the steps; "nothing" when the file is refused.
 std::string parsed(const std::string& file) {
-  const auto container = parseAni(std::as_bytes(std::span(file)));
+  const auto container = parseAni(file);
   if (!container) return "nothing";
   std::string told;
-  for (const auto frame : container->frames) {
+  for (const std::string_view frame : container->frames) {
     if (!told.empty()) told += ',';
-    for (const std::byte byte : frame) told += std::to_integer<char>(byte);
+    told += frame;
   }
   told += '|';
   for (const std::uint32_t step : container->steps) {

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "fakes.h"
+#include "soccer/rules/directions.h"
 
 namespace ratanka::soccer {
 namespace {

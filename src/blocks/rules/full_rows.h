@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 
 #include "blocks/rules/game_state.h"
@@ -24,11 +23,10 @@ class FullRows {
   void closeLowestGap();
 
  private:
-  static constexpr std::size_t index(int row) { return static_cast<std::size_t>(row - 1); }
   int lowestGap() const;  // its row; 0 where there is none
 
   Well& well_;
-  std::array<bool, kRows> Full_{};
+  std::array<bool, kRows> Full_{};  // from row 1
   int count_ = 0;
 };
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 
 namespace ratanka::blocks {
@@ -21,16 +20,14 @@ class Well {
     return 1 <= column && column <= kColumns && 1 <= row && row <= kRows;
   }
 
-  int at(int column, int row) const { return rows_[index(row)][index(column)]; }
-  int& at(int column, int row) { return rows_[index(row)][index(column)]; }
-  const Row& row(int row) const { return rows_[index(row)]; }
-  Row& row(int row) { return rows_[index(row)]; }
+  int at(int column, int row) const { return rows_[row - 1][column - 1]; }
+  int& at(int column, int row) { return rows_[row - 1][column - 1]; }
+  const Row& row(int row) const { return rows_[row - 1]; }
+  Row& row(int row) { return rows_[row - 1]; }
 
   friend bool operator==(const Well&, const Well&) = default;
 
  private:
-  static constexpr std::size_t index(int fromOne) { return static_cast<std::size_t>(fromOne - 1); }
-
   std::array<Row, kRows> rows_{};
 };
 

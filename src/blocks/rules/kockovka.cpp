@@ -169,7 +169,7 @@ void Kockovka::CheckLines() {
   DrawBoard();
   Wait(kCollapse);
   const int rows = full.count();
-  if (1 <= rows && rows <= 4) PlayEffect(kRowsWaves[static_cast<std::size_t>(rows - 1)]);
+  if (1 <= rows && rows <= 4) PlayEffect(kRowsWaves[rows - 1]);
   while (full.isGapLeft()) {
     keepState();
     full.closeLowestGap();

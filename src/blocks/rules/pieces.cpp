@@ -34,7 +34,7 @@ constexpr Kind kKindTable[] = {
 };
 // clang-format on
 
-const Kind& kindOf(int kind) { return kKindTable[static_cast<std::size_t>(kind - 1)]; }
+const Kind& kindOf(int kind) { return kKindTable[kind - 1]; }
 
 }  // namespace
 
@@ -43,7 +43,7 @@ int orientations(int kind) { return kindOf(kind).orientations; }
 int nextRotation(int kind, int Rotation) { return Rotation % orientations(kind) + 1; }
 
 Cells cellsOf(int kind, int Rotation, int X, int Y) {
-  Cells cells = kindOf(kind).cells[static_cast<std::size_t>(Rotation - 1)];
+  Cells cells = kindOf(kind).cells[Rotation - 1];
   for (Cell& cell : cells) {
     cell.column += X;
     cell.row += Y;

@@ -5,11 +5,11 @@
 #include <span>
 
 #include "blocks/rules/pieces.h"
+#include "platform/colours.h"
 
 namespace ratanka::blocks {
 namespace {
 
-constexpr Rgb kBlack{0, 0, 0};
 constexpr int kLast = kTileSize - 1;
 
 struct Pixel {
@@ -83,7 +83,7 @@ void addRings(std::vector<Stroke>& strokes) {
 
 std::vector<Stroke> tile(int kind) {
   if (kind == 0) return {square(0, kBackColour)};
-  const Design& design = kDesigns[static_cast<std::size_t>(kind - 1)];
+  const Design& design = kDesigns[kind - 1];
   std::vector<Stroke> strokes = bevelled(design);
   if (kind == kRingsKind) {
     addRings(strokes);

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <limits>
 
+#include "platform/plain_text.h"
+
 namespace ratanka::clock {
 namespace {
 
@@ -51,12 +53,12 @@ Tip handTip(double length, double angle) {
 }
 
 Rgb paletteColour(int index) {
-  const bool isKnown = index >= 0 && index < static_cast<int>(kPalette.size());
-  return kPalette.at(isKnown ? static_cast<std::size_t>(index) : 0);
+  const bool isKnown = index >= 0 && index < std::ssize(kPalette);
+  return kPalette.at(isKnown ? index : 0);
 }
 
 int storedNumber(std::string_view text) {
-  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  text = trimmedLeft(text, " ");
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
   long long number = 0;
   const auto end = std::from_chars(text.data(), text.data() + text.size(), number);

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <vector>
 
 namespace ratanka::maze {
@@ -20,14 +19,14 @@ class Maze {
 
   int Rows() const { return rows_; }
   int Cols() const { return cols_; }
-  std::size_t cells() const { return map_.size(); }
+  int cells() const { return rows_ * cols_; }
 
   // Whether the figure can walk there: not on a wall, and nowhere off the map.
   bool Map(Cell cell) const { return isOnMap(cell) && map_[index(cell)]; }
   bool isOnMap(Cell cell) const;
 
   // Where a cell of the map stands in reading order, from 0 to below cells().
-  std::size_t index(Cell cell) const;
+  int index(Cell cell) const;
 
   void buildWall(Cell cell) { map_[index(cell)] = false; }
 

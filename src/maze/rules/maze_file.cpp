@@ -4,12 +4,12 @@
 #include <charconv>
 #include <optional>
 
+#include "platform/plain_text.h"
+
 namespace ratanka::maze {
 namespace {
 
 using What = MazeError::What;
-
-constexpr std::string_view kBlanks = " \t";
 
 // Takes the next line off the text, without its end.
 std::string_view takeLine(std::string_view& text) {
@@ -20,26 +20,7 @@ std::string_view takeLine(std::string_view& text) {
   return line;
 }
 
-// How many bytes the first character of a text takes. The text isn't empty.
-std::size_t characterBytes(std::string_view text) {
-  const auto byte = [&](std::size_t at) { return static_cast<unsigned char>(text[at]); };
-  const unsigned char lead = byte(0);
-  const std::size_t bytes = lead < 0xC2 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
-  if (bytes == 1 || lead > 0xF4 || bytes > text.size()) return 1;
-  // What no character may begin with: an overlong form, half of a pair, more than there is.
-  if (lead == 0xE0 && byte(1) < 0xA0) return 1;
-  if (lead == 0xED && byte(1) > 0x9F) return 1;
-  if (lead == 0xF0 && byte(1) < 0x90) return 1;
-  if (lead == 0xF4 && byte(1) > 0x8F) return 1;
-  for (std::size_t at = 1; at < bytes; ++at) {
-    if ((byte(at) & 0xC0) != 0x80) return 1;
-  }
-  return bytes;
-}
-
-void skipBlanks(std::string_view& text) {
-  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
-}
+void skipBlanks(std::string_view& text) { text = trimmedLeft(text, " \t"); }
 
 // Takes a whole number off the text; one that is too great for an int is as good as any that is too
 // great for a maze.
@@ -47,7 +28,7 @@ std::optional<int> takeNumber(std::string_view& text) {
   int number = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   if (error == std::errc::invalid_argument) return std::nullopt;
-  text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+  text.remove_prefix(end - text.data());
   return error == std::errc::result_out_of_range ? kMaxSize + 1 : number;
 }
 
@@ -75,7 +56,7 @@ void readRow(Maze& maze, int Row, std::string_view line) {
     if (sign == '#') maze.buildWall(cell);
     if (sign == 's' || sign == 'S') maze.Player = cell;
     if (sign == 'f' || sign == 'F') maze.Finish = cell;
-    line.remove_prefix(characterBytes(line));
+    takeCharacter(line);
   }
 }
 

@@ -34,7 +34,7 @@ bool Walk::step(Direction direction) {
 }
 
 void Walk::MoveTo(Cell cell) {
-  if (const std::size_t left = maze_.index(player_); !isBitten_[left]) {
+  if (const int left = maze_.index(player_); !isBitten_[left]) {
     isBitten_[left] = true;
     bites_.push_back(player_);
   }

@@ -7,7 +7,7 @@
 namespace ratanka::piano {
 
 constexpr std::uint32_t packed(int status, int data1, int data2) {
-  return static_cast<std::uint32_t>(status | data1 << 8 | data2 << 16);
+  return status | data1 << 8 | data2 << 16;
 }
 
 constexpr std::uint32_t noteOn(int channel, int note, int volume) {

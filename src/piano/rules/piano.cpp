@@ -29,13 +29,13 @@ void Piano::answerBaseNote(std::string_view answer) {
 
 void Piano::NoteOn(int i) {
   if (i == -1 || isPressed(i)) return;
-  now_.pressed.set(static_cast<std::size_t>(i));
+  now_.pressed.set(i);
   out_.midiOutShortMsg(noteOn(now_.channel, now_.baseNote + i, now_.volume));
 }
 
 void Piano::NoteOff(int i) {
   if (i == -1) return;
-  now_.pressed.reset(static_cast<std::size_t>(i));
+  now_.pressed.reset(i);
   out_.midiOutShortMsg(noteOff(now_.channel, now_.baseNote + i));
 }
 

@@ -48,7 +48,7 @@ class Piano {
   int channel() const { return now_.channel; }
   int volume() const { return now_.volume; }
   int baseNote() const { return now_.baseNote; }
-  bool isPressed(int i) const { return now_.pressed.test(static_cast<std::size_t>(i)); }
+  bool isPressed(int i) const { return now_.pressed.test(i); }
 
  private:
   struct State {

@@ -25,9 +25,9 @@ using Lines = std::bitset<kLines>;
 class Board {
  public:
   // Cells outside 0 to 8 throw std::out_of_range.
-  Mark at(int cell) const { return cells_.at(static_cast<std::size_t>(cell)); }
+  Mark at(int cell) const { return cells_.at(cell); }
   bool isEmpty(int cell) const { return at(cell) == Mark::none; }
-  void put(int cell, Mark mark) { cells_.at(static_cast<std::size_t>(cell)) = mark; }
+  void put(int cell, Mark mark) { cells_.at(cell) = mark; }
 
   bool isFull() const;
   // The lines that hold this mark, X or O, in all three cells.

@@ -6,8 +6,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/midi_out.h"
+#include "platform/plain_text.h"
 #include "platform/sound/makers.h"
 #include "platform/sound/sound_system.h"
 #include "platform/sound/synthesiser.h"
@@ -16,7 +18,7 @@
 namespace ratanka {
 namespace {
 
-constexpr std::size_t kLongestName = 31;  // characters
+constexpr int kLongestName = 31;  // characters
 constexpr int kFailed = 1;
 
 // Looked for beforehand, since a connection that fails is told of on stderr.
@@ -43,13 +45,9 @@ std::unique_ptr<RtMidiOut> connect() {
 
 // The first characters of a UTF-8 text.
 std::string cut(const std::string& name) {
-  std::size_t characters = 0;
-  std::size_t end = 0;
-  for (; end < name.size(); ++end) {
-    const bool isStart = (static_cast<unsigned char>(name[end]) & 0xc0) != 0x80;
-    if (isStart && ++characters > kLongestName) break;
-  }
-  return name.substr(0, end);
+  std::string_view rest = name;
+  for (int i = 0; i < kLongestName && !rest.empty(); ++i) takeCharacter(rest);
+  return name.substr(0, name.size() - rest.size());
 }
 
 // What the worker says to a question; an empty value where it says nothing in time.
@@ -73,7 +71,7 @@ struct Output {
       return;
     }
     port = connect();
-    if (port) port->openPort(static_cast<unsigned>(device), "Klavír");
+    if (port) port->openPort(device, "Klavír");
     isOpen = port && port->isPortOpen();
   }
 };
@@ -101,7 +99,7 @@ class MidiOutputs : public MidiOut {
   std::string midiOutGetDevCapsA(int device) override {
     return ask<std::string>([device] {
       const auto connection = connect();
-      return connection ? cut(connection->getPortName(static_cast<unsigned>(device))) : "";
+      return connection ? cut(connection->getPortName(device)) : "";
     });
   }
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/sound/riff.h"
+#include "platform/riff.h"
 
 namespace ratanka {
 namespace {
@@ -40,7 +40,7 @@ std::string readSoundFile(const std::string& path) {
   const std::size_t size = std::filesystem::file_size(path, error);
   if (error || size > kMaxBytes) return {};
   std::string bytes(size, '\0');
-  std::ifstream(path, std::ios::binary).read(bytes.data(), static_cast<std::streamsize>(size));
+  std::ifstream(path, std::ios::binary).read(bytes.data(), size);
   return bytes;
 }
 

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <optional>
 
-#include "platform/sound/riff.h"
+#include "platform/riff.h"
 
 namespace ratanka {
 namespace {
@@ -96,7 +96,7 @@ bool isSound(std::string_view hydra, std::uint64_t sampleBytes) {
 
 std::string take(std::istream& file, std::size_t size) {
   std::string bytes(size, '\0');
-  file.read(bytes.data(), static_cast<std::streamsize>(size));
+  file.read(bytes.data(), size);
   return file ? bytes : "";
 }
 

@@ -74,10 +74,10 @@ void Synthesiser::render(float* samples, int frames) {
 }
 
 void Synthesiser::send(std::uint32_t message) {
-  const int status = static_cast<int>(message & 0xf0);
-  const int channel = static_cast<int>(message & 0x0f);
-  const int first = static_cast<int>(message >> 8 & 0x7f);
-  const int second = static_cast<int>(message >> 16 & 0x7f);
+  const int status = message & 0xf0;
+  const int channel = message & 0x0f;
+  const int first = message >> 8 & 0x7f;
+  const int second = message >> 16 & 0x7f;
   switch (status) {
     case 0x80:
       fluid_synth_noteoff(synth_.get(), channel, first);

@@ -36,7 +36,7 @@ class Board {
   // Of cmdButton(0) to cmdButton(48), the hidden ones included: their number from 1, and nothing
   // (0) on the empty place once a tile has moved.
   std::string caption(int button) const;
-  int number(int button) const { return numbers_.at(static_cast<std::size_t>(button)); }
+  int number(int button) const { return numbers_.at(button); }
   bool isVisible(int button) const { return button < places() && button != blank_; }
 
   // A walk of the empty place of Size to the fourth power steps, so that the board can be solved.
@@ -53,7 +53,7 @@ class Board {
   bool isInOrder() const;
 
  private:
-  int& number(int button) { return numbers_.at(static_cast<std::size_t>(button)); }
+  int& number(int button) { return numbers_.at(button); }
 
   int size_;
   int blank_;

@@ -42,7 +42,7 @@ void Worksheet::ShowOpakuj(const std::optional<Examples>& examples) {
     Row& row = at(number);
     row.isOpen = true;
     row.outcome = Outcome::unjudged;
-    if (examples) row.example = examples->at(static_cast<std::size_t>(number - 1));
+    if (examples) row.example = examples->at(number - 1);
   }
 }
 

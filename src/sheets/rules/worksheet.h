@@ -50,14 +50,14 @@ class Worksheet {
   // Opens and clears all rows; without new examples the old ones are asked again.
   void ShowOpakuj(const std::optional<Examples>& examples);
 
-  const Row& row(int number) const { return rows_.at(static_cast<std::size_t>(number - 1)); }
+  const Row& row(int number) const { return rows_.at(number - 1); }
   const Counter& Správne() const { return správne_; }
   const Counter& Nesprávne() const { return nesprávne_; }
   std::optional<int> mark() const { return mark_; }  // none until it is first worked out
   bool isRewarded() const { return isRewarded_; }
 
  private:
-  Row& at(int number) { return rows_.at(static_cast<std::size_t>(number - 1)); }
+  Row& at(int number) { return rows_.at(number - 1); }
 
   Percentage percentage_;
   std::array<Row, kRows> rows_;

@@ -5,9 +5,7 @@
 namespace ratanka {
 namespace {
 
-bool isInside(Outline outline, int index) {
-  return index >= 0 && static_cast<std::size_t>(index) < outline.size();
-}
+bool isInside(Outline outline, int index) { return index >= 0 && index < std::ssize(outline); }
 
 int onScreen(std::int16_t coordinate, float scale, double twipsPerPixel, std::int16_t offset) {
   // Rounds halves to even, as the processor does unless told otherwise.
@@ -18,17 +16,17 @@ int onScreen(std::int16_t coordinate, float scale, double twipsPerPixel, std::in
 }  // namespace
 
 std::int16_t GetPointX(Outline outline, int index) {
-  return isInside(outline, index) ? outline[static_cast<std::size_t>(index)].x : std::int16_t{0};
+  return isInside(outline, index) ? outline[index].x : std::int16_t{0};
 }
 
 std::int16_t GetPointY(Outline outline, int index) {
-  return isInside(outline, index) ? outline[static_cast<std::size_t>(index)].y : std::int16_t{0};
+  return isInside(outline, index) ? outline[index].y : std::int16_t{0};
 }
 
 std::vector<ScreenPoint> GetFormRegion(Outline outline, const RegionScale& scale) {
   std::vector<ScreenPoint> region;
   region.reserve(outline.size());
-  for (int i = 0; i < static_cast<int>(outline.size()); ++i) {
+  for (int i = 0; i < std::ssize(outline); ++i) {
     region.push_back(
         {onScreen(GetPointX(outline, i), scale.ScaleX, scale.TwipsPerPixelX, scale.OffsetX),
          onScreen(GetPointY(outline, i), scale.ScaleY, scale.TwipsPerPixelY, scale.OffsetY)});

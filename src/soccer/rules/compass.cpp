@@ -2,10 +2,12 @@
 
 #include <array>
 
-#include "soccer/rules/computer.h"
-
 namespace ratanka::soccer {
 namespace {
+
+// The outer width of the window of a match against the computer, in twips. The computer's thirds
+// are thirds of it.
+constexpr int kOuterWidth = 12000;
 
 // What stands in the table: directions to hold, or a rule that looks closer.
 struct Answer {
@@ -65,7 +67,7 @@ Held compassAnswer(const Situation& situation, int level) {
   const int point = GetDirection(situation.match.Red, situation.match.Ball);
   for (const Row& row : kCompass) {
     if (row.point != point) continue;
-    const Answer& answer = row.levels.at(static_cast<std::size_t>(level - 1));
+    const Answer& answer = row.levels.at(level - 1);
     return answer.rule == nullptr ? answer.held : answer.rule(situation);
   }
   return kNone;

@@ -1,21 +1,16 @@
 #pragma once
 
-#include "soccer/rules/intelligence.h"
+#include "platform/random.h"
+#include "soccer/rules/directions.h"
 
 namespace ratanka::soccer {
 
-inline constexpr Held kNone{};
-inline constexpr Held kUp{.up = true};
-inline constexpr Held kDown{.down = true};
-inline constexpr Held kLeft{.left = true};
-inline constexpr Held kRight{.right = true};
-
-constexpr Held operator+(const Held& one, const Held& other) {
-  return {.up = one.up || other.up,
-          .down = one.down || other.down,
-          .left = one.left || other.left,
-          .right = one.right || other.right};
-}
+// What a level of the computer looks at. It has no memory and foresees nothing.
+struct Situation {
+  const Match& match;
+  int Tactic;
+  Random& random;
+};
 
 // Straight for the ball.
 Held chase(const Situation& situation);

@@ -5,23 +5,6 @@
 
 namespace ratanka::soccer {
 
-// The label in Red's own goal that Red runs home to.
-inline constexpr Piece kRedGoalLine{240, 3840, 60, 732};
-
-// The outer width of the window of a match against the computer, in twips. The computer's thirds
-// are thirds of it.
-inline constexpr int kOuterWidth = 12000;
-
-// The horizontal band of the pitch in which a thing stands: 1 (upper), 2 (the goals') or 3.
-int Section(const Piece& playerOrBall);
-
-// Holds what leads in one of eight directions, clockwise from 1, straight up. Lets nothing go.
-void SetPlayerDirection2(Held& held, int direction);
-
-// Run to the ball, or to another thing; twelve of the sixteen compass points go along a diagonal.
-void MovePlayerTowardsBall(Held& held, const Match& match);
-void MoveRedTowardsX(Held& held, const Match& match, const Piece& XObject);
-
 // The player who plays Red in a match against a child, at five levels, one for each opponent.
 class Computer {
  public:

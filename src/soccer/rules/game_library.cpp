@@ -40,6 +40,11 @@ int GetDirection(const Piece& from, const Piece& to) {
   return to.Left < from.Left ? inQuarter(11, dx, dy, 10, 12) : inQuarter(7, dx, dy, 8, 6);
 }
 
+int Section(const Piece& playerOrBall) {
+  if (playerOrBall.Top <= 2760) return 1;
+  return playerOrBall.Top <= 5040 ? 2 : 3;
+}
+
 float GetDistance(const Piece& one, const Piece& other) {
   const auto dx = static_cast<float>(halved(doubledX(one)) - halved(doubledX(other)));
   const auto dy = static_cast<float>(halved(doubledY(one)) - halved(doubledY(other)));

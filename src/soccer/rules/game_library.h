@@ -19,6 +19,9 @@ struct Piece {
 // with two sizes on a pitch that decides which points can occur at all.
 int GetDirection(const Piece& from, const Piece& to);
 
+// The horizontal band of the pitch in which a thing stands: 1 (upper), 2 (the goals') or 3.
+int Section(const Piece& playerOrBall);
+
 // How far the two centres are apart, each first rounded to whole twips, halves to the even one.
 float GetDistance(const Piece& one, const Piece& other);
 

@@ -1,14 +1,14 @@
 #include "soccer/rules/intelligence.h"
 
-#include "soccer/rules/compass.h"
-#include "soccer/rules/computer.h"
-
 namespace ratanka::soccer {
 namespace {
 
 constexpr int kCentre = kBallStart.Left;  // the column that the ball runs in after a kick-off
 constexpr int kBesideCentre = 5400;       // the column left of it
 constexpr float kNear = 480;              // of GetDistance
+
+// The label in Red's own goal that Red runs home to.
+constexpr Piece kRedGoalLine{240, 3840, 60, 732};
 
 bool isKickOff(const Match& match) { return match.BallStepX == 0 && match.Ball.Left == kCentre; }
 

@@ -1,16 +1,8 @@
 #pragma once
 
-#include "platform/random.h"
-#include "soccer/rules/match.h"
+#include "soccer/rules/compass.h"
 
 namespace ratanka::soccer {
-
-// What a level of the computer looks at. It has no memory and foresees nothing.
-struct Situation {
-  const Match& match;
-  int Tactic;
-  Random& random;
-};
 
 // Each level takes more into account than the one before it, and says what Red is to hold.
 Held Intelligence1(const Situation& situation);

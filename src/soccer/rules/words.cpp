@@ -42,10 +42,9 @@ std::string clockOfTwo(int timeLeft) { return "Časomiera: " + std::to_string(ti
 std::string clockAgainstComputer(int timeLeft) { return "Časomiera : " + std::to_string(timeLeft); }
 
 std::string_view opponentName(int opponentIndex) {
-  constexpr std::array<std::string_view, 6> kNames{"",       "Morko",  "Ludvar",
-                                                   "Hostin", "Dorvan", "Belko"};
-  const auto index = static_cast<std::size_t>(opponentIndex);
-  return index < kNames.size() ? kNames.at(index) : "";
+  constexpr std::array<std::string_view, 5> kNames{"Morko", "Ludvar", "Hostin", "Dorvan", "Belko"};
+  const bool isKnown = 1 <= opponentIndex && opponentIndex <= std::ssize(kNames);
+  return isKnown ? kNames.at(opponentIndex - 1) : "";
 }
 
 }  // namespace ratanka::soccer

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-// Files of chunks, each with a tag, its size and so many bytes: waves and sound fonts.
+// Files of chunks, each with a tag, its size and so many bytes: waves, sound fonts and animations.
 namespace ratanka::riff {
 
 inline constexpr std::size_t kHeader = 8;  // of a chunk: its tag and its size
@@ -25,7 +25,8 @@ struct Chunk {
   std::string_view body;
 };
 
-// Takes the next chunk off; nothing where no whole one is left.
+// Takes the next chunk off, with the byte that fills up an odd size if it is there; nothing where
+// no whole one is left.
 inline std::optional<Chunk> takeChunk(std::string_view& rest) {
   if (rest.size() < kHeader) return std::nullopt;
   const std::size_t size = number(rest, 4, 4);
