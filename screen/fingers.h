@@ -16,7 +16,10 @@ class Fingers {
   void strike(Key key);
   void strikeWithAlt(Key key);
   void type(const std::string& digits);
-  void click(Point point, int button = 1);  // 1 left, 2 middle, 3 right
+  // 1 left, 2 middle, 3 right. On a busy machine a pointer that leaves at once takes the click
+  // along: the window manager holds the press back, and the release is told of where the pointer is
+  // then.
+  void click(Point point, int button = 1);
   void drag(Point from, Point to, int button = 1);
 
   // Puts a key down for so long, while other things happen: releaseDue lets go of those whose time

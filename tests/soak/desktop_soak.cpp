@@ -117,6 +117,7 @@ class DesktopChild {
                      Surroundings{{screen_.variable(), "QT_QPA_PLATFORM=xcb"}, said_});
     last_.clear();
     awaitActive(kMenuTitle, kSlow);
+    rest(300ms);  // no child finds a button sooner
     ++starts_;
     const std::int64_t whole = diary.event + between(150, 450);
     if (happens(85)) earn(sheet);
@@ -242,7 +243,6 @@ class DesktopChild {
     if (!comesTrue(isInFront, 1s)) return;
     for (int menu = 0; menu < 3; ++menu) fingers_.strike(kEsc);
     fingers_.click(fresh.at);
-    robot_.movePointer({});
     awaitSignOfLife();
     rest(500ms);
     std::set<std::string> empty;  // with the cursor, and without
