@@ -1,4 +1,3 @@
-#include "makers.h"
 #include "platform/application.h"
 #include "platform/data_files.h"
 #include "platform/end_requests.h"
@@ -10,6 +9,7 @@
 #include "platform/system_clock.h"
 #include "platform/text.h"
 #include "platform/twister_random.h"
+#include "program.h"
 #include "shell/names.h"
 
 int main(int, char** arguments) {
@@ -25,23 +25,17 @@ int main(int, char** arguments) {
   TwisterRandom random;
   LazySound sound;
   LazyMidiOut midiOut;
-  Premenné premenné;
-  soccer::Declarations declarations;
-  blocks::Options options;
-
-  setMakers({.forms = forms,
-             .dialogs = dialogs,
-             .desktop = desktop,
-             .clock = time,
-             .settings = settings,
-             .random = random,
-             .sound = sound,
-             .midiOut = midiOut,
-             .premenné = premenné,
-             .declarations = declarations,
-             .options = options,
-             .mazeFile = dataFile("bludisko.txt"),
-             .settingsFile = IniSettingsStore::usersFolder() + '/' + text(blocks::kSettingsFile)});
+  const Program program(
+      forms,
+      {.dialogs = dialogs,
+       .desktop = desktop,
+       .clock = time,
+       .settings = settings,
+       .random = random,
+       .sound = sound,
+       .midiOut = midiOut,
+       .mazeFile = dataFile("bludisko.txt"),
+       .settingsFile = IniSettingsStore::usersFolder() + '/' + text(blocks::kSettingsFile)});
   const EndRequests endRequests([&] { forms.endProgram(); });
   return application.run([&] { forms.show(names::frmSplash); });
 }

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "form_driver.h"
-#include "makers.h"
 #include "platform/data_files.h"
 #include "platform/end_requests.h"
+#include "program.h"
 #include "sheets/sheets.h"
 #include "shell/names.h"
 
@@ -29,21 +29,7 @@ inline const std::vector<FormName>& allSeenForms() {
 // The whole program on steered services.
 class AllFormsTest : public FormTest {
  protected:
-  AllFormsTest() {
-    setMakers({.forms = forms,
-               .dialogs = dialogs,
-               .desktop = desktop,
-               .clock = clock,
-               .settings = settings,
-               .random = random,
-               .sound = sound,
-               .midiOut = midi,
-               .premenné = premenné,
-               .declarations = declarations,
-               .options = options,
-               .mazeFile = dataFile("bludisko.txt"),
-               .settingsFile = folder.filePath("Kockovka32.ini")});
-  }
+  AllFormsTest() { declarations.OpponentIndex = 1; }
 
   ~AllFormsTest() override {
     for (const FormName name : allSeenForms()) forms.drop(name);
@@ -55,11 +41,21 @@ class AllFormsTest : public FormTest {
   FakeSettings settings;
   FakeSound sound;
   FakeMidi midi;
-  Premenné premenné;
-  blocks::Options options;
-  soccer::Declarations declarations{.OpponentIndex = 1};
   FakeDesktop desktop;
   const QTemporaryDir folder;
+  Program program{forms,
+                  {.dialogs = dialogs,
+                   .desktop = desktop,
+                   .clock = clock,
+                   .settings = settings,
+                   .random = random,
+                   .sound = sound,
+                   .midiOut = midi,
+                   .mazeFile = dataFile("bludisko.txt"),
+                   .settingsFile = folder.filePath("Kockovka32.ini")}};
+  Premenné& premenné = program.premenné;
+  blocks::Options& options = program.options;
+  soccer::Declarations& declarations = program.declarations;
   const EndRequests endRequests{[this] { forms.endProgram(); }};
 };
 

@@ -27,21 +27,18 @@ class WholeProgram {
       : clock(ticks, given.secondsAtStart),
         random(given.seed),
         shuffling(given.seed),
-        midi(given.midiDevices) {
+        midi(given.midiDevices),
+        program(forms,
+                {.dialogs = dialogs,
+                 .desktop = desktop,
+                 .clock = clock,
+                 .settings = settings,
+                 .random = random,
+                 .sound = sound,
+                 .midiOut = midi,
+                 .mazeFile = given.mazeFile,
+                 .settingsFile = given.optionsFile}) {
     desktop.mode = given.screen;
-    setMakers({.forms = forms,
-               .dialogs = dialogs,
-               .desktop = desktop,
-               .clock = clock,
-               .settings = settings,
-               .random = random,
-               .sound = sound,
-               .midiOut = midi,
-               .premenné = premenné,
-               .declarations = declarations,
-               .options = options,
-               .mazeFile = given.mazeFile,
-               .settingsFile = given.optionsFile});
     forms.setMaker(names::frmSplash, [this] {
       ++starts;
       return std::make_shared<frmSplash>(forms, dialogs, desktop, premenné);
@@ -61,9 +58,9 @@ class WholeProgram {
   QuietMidi midi;
   FakeSettings settings;
   FakeDesktop desktop;
-  Premenné premenné;
-  blocks::Options options;
-  soccer::Declarations declarations;
+  Program program;
+  Premenné& premenné = program.premenné;
+  soccer::Declarations& declarations = program.declarations;
   int starts = 0;
   const EndRequests endRequests{[this] { forms.endProgram(); }};
 };

@@ -6,7 +6,6 @@
 #include <algorithm>
 
 #include "platform/controls.h"
-#include "platform/data_files.h"
 #include "platform/text.h"
 #include "sheets/sheets.h"
 
@@ -14,19 +13,7 @@ namespace ratanka {
 
 Gallery::Gallery(QString folder, QString suffix)
     : folder_(std::move(folder)), suffix_(std::move(suffix)) {
-  setMakers({.forms = forms_,
-             .dialogs = dialogs_,
-             .desktop = desktop_,
-             .clock = time_,
-             .settings = settings_,
-             .random = random_,
-             .sound = silence_,
-             .midiOut = silence_,
-             .premenné = premenné_,
-             .declarations = declarations_,
-             .options = options_,
-             .mazeFile = dataFile("bludisko.txt"),
-             .settingsFile = home_.filePath("Kockovka32.ini")});
+  program_.options = {.StartingLevel = 7, .FillLines = true};
 }
 
 void Gallery::show() {

@@ -9,11 +9,12 @@
 #include <initializer_list>
 #include <vector>
 
-#include "makers.h"
+#include "platform/data_files.h"
 #include "platform/ini_settings_store.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_ticks.h"
 #include "platform/twister_random.h"
+#include "program.h"
 #include "sheets/sheet_design.h"
 
 namespace ratanka {
@@ -102,11 +103,18 @@ class Gallery {
   IniSettingsStore settings_{home_.path()};
   ToldReplies replies_;
   TwisterRandom random_;
-  Premenné premenné_;
-  soccer::Declarations declarations_;
-  blocks::Options options_{.StartingLevel = 7, .FillLines = true};
   Silence silence_;
   PrimaryScreen desktop_;
+  Program program_{forms_,
+                   {.dialogs = dialogs_,
+                    .desktop = desktop_,
+                    .clock = time_,
+                    .settings = settings_,
+                    .random = random_,
+                    .sound = silence_,
+                    .midiOut = silence_,
+                    .mazeFile = dataFile("bludisko.txt"),
+                    .settingsFile = home_.filePath("Kockovka32.ini")}};
 };
 
 }  // namespace ratanka

@@ -65,7 +65,7 @@ void Gallery::showSoccer() {
   take(names::frmSelectPlayer, "lifted");
   forms_.unload(names::frmSelectPlayer);
   for (int opponent = 1; opponent <= 5; ++opponent) {
-    declarations_.OpponentIndex = opponent;
+    program_.declarations.OpponentIndex = opponent;
     forms_.show(names::frmPlayer1);
     if (opponent == 5) press(names::frmPlayer1, Qt::Key_Control);
     take(names::frmPlayer1, QString::number(opponent));

@@ -46,7 +46,7 @@ void Gallery::showCard() {
   forms_.show(names::Vysvedčenie);
   take(names::Vysvedčenie, "full");
   forms_.unload(names::Vysvedčenie);
-  premenné_ = {};
+  program_.premenné = {};
   forms_.show(names::Vysvedčenie);
   take(names::Vysvedčenie, "empty");
 }

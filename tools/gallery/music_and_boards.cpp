@@ -15,7 +15,7 @@ void Gallery::showBlocks() {
   // A game needs a time that goes by.
   const SystemClock clock;
   forms_.setMaker(names::frmKockovka, [&] {
-    return std::make_shared<blocks::frmKockovka>(forms_, clock, random_, silence_, options_);
+    return std::make_shared<blocks::frmKockovka>(forms_, clock, random_, silence_, program_.options);
   });
   forms_.show(names::frmKockovka);
   take(names::frmKockovka, "empty");

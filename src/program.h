@@ -16,9 +16,8 @@
 
 namespace ratanka {
 
-// What the forms of the program live on. All of it is used as long as the forms are.
+// What the program lives on: the machine's own, or a test's.
 struct Services {
-  Forms& forms;
   Dialogs& dialogs;
   const Desktop& desktop;
   const Clock& clock;
@@ -26,14 +25,27 @@ struct Services {
   Random& random;
   Sound& sound;
   MidiOut& midiOut;
-  Premenné& premenné;
-  soccer::Declarations& declarations;
-  blocks::Options& options;
   QString mazeFile;      // is read
   QString settingsFile;  // of the blocks game: is written
 };
 
-// Gives every form of the program its maker.
-void setMakers(const Services& services);
+// The program, put together: gives every form its maker, and keeps what the forms share. Lives, as
+// its services do, as long as the forms are used.
+class Program {
+ public:
+  Program(Forms& forms, Services services);
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  Premenné premenné;
+  soccer::Declarations declarations;
+  blocks::Options options;
+
+ private:
+  void setMakers();
+
+  Forms& forms_;
+  const Services services_;
+};
 
 }  // namespace ratanka
