@@ -255,8 +255,8 @@ TEST_F(BlocksTest, ABadLevelIsToldOnceAndTheOldOneComesBack) {
                                       {"abc", "V poli LEVEL prosím zadajte číslo medzi 1 a 9"}}) {
       dialogs.shown.clear();
       dialogs.expect("Rátanka - hra TETRIS");
-      openOptions([&, typed = typed] {
-        typeLevel(typed);
+      openOptions([&, refused = typed] {
+        typeLevel(refused);
         way();
       });
       ASSERT_EQ(dialogs.shown.size(), 1U);

@@ -72,10 +72,9 @@ using Events = std::vector<std::string>;
 class FormsTest : public FormTest {
  protected:
   FormsTest() {
-    for (const auto& [name, script] : {std::pair{kFirst, &first}, {kSecond, &second}}) {
-      forms.setMaker(name, [this, name = name, script = script] {
-        return std::make_shared<TestForm>(forms, name, *script);
-      });
+    for (TestForm::Script* const script : {&first, &second}) {
+      const FormName name = script == &first ? kFirst : kSecond;
+      forms.setMaker(name, [=, this] { return std::make_shared<TestForm>(forms, name, *script); });
     }
   }
 
