@@ -4,7 +4,7 @@
 
 #include "figure.h"
 #include "measures.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/chains.h"
 #include "sheets/rules/products.h"
 #include "sheets/rules/sums.h"

@@ -2,7 +2,7 @@
 
 #include "figure.h"
 #include "measures.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/sums.h"
 
 namespace ratanka::bench {

@@ -13,12 +13,12 @@
 #include <string>
 
 #include "figure.h"
-#include "platform/application.h"
-#include "platform/forms.h"
-#include "platform/qt_dialogs.h"
-#include "platform/qt_ticks.h"
-#include "platform/timer.h"
-#include "platform/twister_random.h"
+#include "platform/forms/application.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/qt_dialogs.h"
+#include "platform/forms/qt_ticks.h"
+#include "platform/forms/timer.h"
+#include "platform/plain/twister_random.h"
 #include "shell/names.h"
 #include "soccer/player1.h"
 

@@ -5,8 +5,8 @@
 #include <cstdint>
 
 #include "blocks/rules/kockovka.h"
-#include "platform/keys.h"
-#include "platform/twister_random.h"
+#include "platform/keyboard/keys.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/sums.h"
 #include "sheets/rules/worksheet.h"
 #include "soccer/rules/computer.h"

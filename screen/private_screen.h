@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 #include "screen/process.h"
 
 namespace ratanka::screen {

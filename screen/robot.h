@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 
 union _XEvent;     // NOLINT(bugprone-reserved-identifier): the names are Xlib's
 struct _XDisplay;  // NOLINT(bugprone-reserved-identifier)

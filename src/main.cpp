@@ -1,14 +1,14 @@
-#include "platform/application.h"
-#include "platform/data_files.h"
-#include "platform/end_requests.h"
-#include "platform/ini_settings_store.h"
-#include "platform/lazy_midi_out.h"
-#include "platform/lazy_sound.h"
-#include "platform/qt_dialogs.h"
-#include "platform/qt_ticks.h"
-#include "platform/system_clock.h"
-#include "platform/text.h"
-#include "platform/twister_random.h"
+#include "platform/base/data_files.h"
+#include "platform/base/text.h"
+#include "platform/forms/application.h"
+#include "platform/forms/end_requests.h"
+#include "platform/forms/qt_dialogs.h"
+#include "platform/forms/qt_ticks.h"
+#include "platform/forms/system_clock.h"
+#include "platform/plain/twister_random.h"
+#include "platform/settings/ini_settings_store.h"
+#include "platform/sound/lazy_midi_out.h"
+#include "platform/sound/lazy_sound.h"
 #include "program.h"
 #include "shell/names.h"
 
@@ -26,16 +26,15 @@ int main(int, char** arguments) {
   LazySound sound;
   LazyMidiOut midiOut;
   const Program program(
-      forms,
-      {.dialogs = dialogs,
-       .desktop = desktop,
-       .clock = time,
-       .settings = settings,
-       .random = random,
-       .sound = sound,
-       .midiOut = midiOut,
-       .mazeFile = dataFile("bludisko.txt"),
-       .settingsFile = IniSettingsStore::usersFolder() + '/' + text(blocks::kSettingsFile)});
+      forms, {.dialogs = dialogs,
+              .desktop = desktop,
+              .clock = time,
+              .settings = settings,
+              .random = random,
+              .sound = sound,
+              .midiOut = midiOut,
+              .mazeFile = dataFile("bludisko.txt"),
+              .settingsFile = IniSettingsStore::usersFolder() + '/' + text(blocks::kSettingsFile)});
   const EndRequests endRequests([&] { forms.endProgram(); });
   return application.run([&] { forms.show(names::frmSplash); });
 }

@@ -3,14 +3,14 @@
 #include <QString>
 
 #include "blocks/rules/options.h"
-#include "platform/clock.h"
-#include "platform/desktop.h"
-#include "platform/dialogs.h"
-#include "platform/forms.h"
-#include "platform/midi_out.h"
-#include "platform/random.h"
-#include "platform/settings_store.h"
-#include "platform/sound.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/forms.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/midi_out.h"
+#include "platform/ports/random.h"
+#include "platform/ports/settings_store.h"
+#include "platform/ports/sound.h"
 #include "shell/rules/premenne.h"
 #include "soccer/rules/declarations.h"
 

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "form_driver.h"
-#include "platform/data_files.h"
-#include "platform/end_requests.h"
+#include "platform/base/data_files.h"
+#include "platform/forms/end_requests.h"
 #include "program.h"
 #include "sheets/sheets.h"
 #include "shell/names.h"

@@ -10,14 +10,14 @@
 #include <string>
 #include <vector>
 
-#include "platform/clock.h"
-#include "platform/desktop.h"
-#include "platform/dialogs.h"
-#include "platform/midi_out.h"
-#include "platform/random.h"
-#include "platform/settings_store.h"
-#include "platform/sound.h"
-#include "platform/ticks.h"
+#include "platform/forms/desktop.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/midi_out.h"
+#include "platform/ports/random.h"
+#include "platform/ports/settings_store.h"
+#include "platform/ports/sound.h"
+#include "platform/ports/ticks.h"
 
 // Doubles of the services, for tests to steer; each records what it was asked for.
 namespace ratanka {

@@ -9,9 +9,9 @@
 #include <QWidget>
 
 #include "fakes.h"
-#include "platform/form.h"
-#include "platform/forms.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/forms/form.h"
+#include "platform/forms/forms.h"
 
 namespace ratanka {
 

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/application.h"
+#include "platform/forms/application.h"
 
 // Forms without a display.
 int main(int argumentCount, char** arguments) {

@@ -4,11 +4,11 @@
 
 #include "blocks/pics.h"
 #include "blocks/rules/tiles.h"
-#include "platform/controls.h"
-#include "platform/event_loop.h"
-#include "platform/forms.h"
-#include "platform/menus.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/menus.h"
+#include "platform/forms/event_loop.h"
+#include "platform/forms/forms.h"
 #include "shell/names.h"
 
 namespace ratanka::blocks {

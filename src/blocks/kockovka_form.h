@@ -1,9 +1,9 @@
 #pragma once
 
 #include "blocks/rules/kockovka.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
-#include "platform/sound.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/sound.h"
 
 class QAction;
 class QLabel;

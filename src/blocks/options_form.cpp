@@ -2,12 +2,12 @@
 
 #include <QApplication>
 
-#include "platform/controls.h"
-#include "platform/desktop.h"
-#include "platform/forms.h"
-#include "platform/ini_file.h"
-#include "platform/keys.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/forms.h"
+#include "platform/keyboard/keys.h"
+#include "platform/settings/ini_file.h"
 #include "shell/names.h"
 
 namespace ratanka::blocks {

@@ -3,8 +3,8 @@
 #include <QString>
 
 #include "blocks/rules/options.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
 
 class QCheckBox;
 

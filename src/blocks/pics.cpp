@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "blocks/rules/tiles.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace ratanka::blocks {
 namespace {

@@ -3,10 +3,10 @@
 #include <QPainter>
 
 #include "clock/rules/outline.h"
-#include "platform/controls.h"
-#include "platform/forms.h"
-#include "platform/pictures.h"
-#include "platform/timer.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/pictures.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
 #include "shell/names.h"
 
 namespace ratanka::clock {

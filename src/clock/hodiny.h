@@ -5,10 +5,10 @@
 
 #include "clock/rules/elapsed_time.h"
 #include "clock/rules/hands.h"
-#include "platform/clock.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
-#include "platform/settings_store.h"
+#include "platform/forms/form.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/settings_store.h"
 
 class QLabel;
 class QPainter;

@@ -4,11 +4,11 @@
 #include <QPainter>
 #include <QRect>
 
-#include "platform/controls.h"
-#include "platform/forms.h"
-#include "platform/keys.h"
-#include "platform/pictures.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/pictures.h"
+#include "platform/forms/forms.h"
+#include "platform/keyboard/keys.h"
 #include "shell/names.h"
 
 namespace ratanka::maze {

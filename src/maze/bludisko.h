@@ -5,9 +5,9 @@
 
 #include "maze/rules/maze_file.h"
 #include "maze/rules/walk.h"
-#include "platform/clock.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
+#include "platform/forms/form.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/dialogs.h"
 
 class QPainter;
 class QRect;

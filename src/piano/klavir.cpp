@@ -1,11 +1,11 @@
 #include "piano/klavir.h"
 
 #include "piano/piano_key.h"
-#include "platform/controls.h"
-#include "platform/menus.h"
-#include "platform/scroll_bar.h"
-#include "platform/shapes.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/menus.h"
+#include "platform/controls/scroll_bar.h"
+#include "platform/controls/shapes.h"
 #include "shell/names.h"
 
 namespace ratanka::piano {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "piano/rules/piano.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
 
 class QAbstractButton;
 class QAction;

@@ -5,8 +5,8 @@
 #include <QPainter>
 
 #include "piano/rules/keys.h"
-#include "platform/controls.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
 
 namespace ratanka::piano {
 namespace {

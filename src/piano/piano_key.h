@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 
 class QAbstractButton;
 class QString;

@@ -1,9 +1,9 @@
 #include "piskorky/piskorky.h"
 
-#include "platform/forms.h"
-#include "platform/shapes.h"
-#include "platform/text.h"
-#include "platform/timer.h"
+#include "platform/base/text.h"
+#include "platform/controls/shapes.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
 #include "shell/names.h"
 
 namespace ratanka::piskorky {

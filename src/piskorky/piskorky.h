@@ -3,9 +3,9 @@
 #include <array>
 
 #include "piskorky/rules/game.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
-#include "platform/random.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/random.h"
 
 class QLabel;
 class QWidget;

@@ -1,10 +1,10 @@
 #include "puzzle/puzzle.h"
 
-#include "platform/controls.h"
-#include "platform/forms.h"
-#include "platform/menus.h"
-#include "platform/text.h"
-#include "platform/timer.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/menus.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
 #include "shell/names.h"
 
 namespace ratanka::puzzle {

@@ -2,10 +2,10 @@
 
 #include <array>
 
-#include "platform/dialogs.h"
-#include "platform/form.h"
-#include "platform/random.h"
-#include "platform/sound.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
+#include "platform/ports/random.h"
+#include "platform/ports/sound.h"
 #include "puzzle/rules/game.h"
 #include "puzzle/rules/records.h"
 

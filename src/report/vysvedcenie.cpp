@@ -1,8 +1,8 @@
 #include "report/vysvedcenie.h"
 
-#include "platform/desktop.h"
-#include "platform/forms.h"
-#include "platform/shapes.h"
+#include "platform/controls/shapes.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/forms.h"
 #include "shell/names.h"
 #include "shell/rules/mark.h"
 #include "shell/rules/shape.h"

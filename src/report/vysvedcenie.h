@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "platform/form.h"
+#include "platform/forms/form.h"
 #include "shell/rules/premenne.h"
 
 class QLabel;

@@ -2,12 +2,12 @@
 
 #include <QPainter>
 
-#include "platform/data_files.h"
-#include "platform/desktop.h"
-#include "platform/forms.h"
-#include "platform/keys.h"
-#include "platform/text.h"
-#include "platform/timer.h"
+#include "platform/base/data_files.h"
+#include "platform/base/text.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
+#include "platform/keyboard/keys.h"
 #include "shell/names.h"
 #include "shell/rules/shape.h"
 

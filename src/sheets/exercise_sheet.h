@@ -2,9 +2,9 @@
 
 #include <array>
 
-#include "platform/animated_cursor.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
+#include "platform/controls/animated_cursor.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
 #include "sheets/sheet_design.h"
 
 namespace ratanka {

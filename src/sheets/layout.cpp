@@ -1,8 +1,8 @@
 // Where everything on a sheet stands, from top to bottom.
 
-#include "platform/forms.h"
-#include "platform/shapes.h"
-#include "platform/timer.h"
+#include "platform/controls/shapes.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
 #include "sheets/exercise_sheet.h"
 #include "sheets/rules/sums.h"
 

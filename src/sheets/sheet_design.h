@@ -4,9 +4,9 @@
 #include <array>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/form_name.h"
-#include "platform/random.h"
+#include "platform/controls/controls.h"
+#include "platform/ports/form_name.h"
+#include "platform/ports/random.h"
 #include "sheets/rules/worksheet.h"
 #include "shell/rules/premenne.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/form_name.h"
+#include "platform/ports/form_name.h"
 
 // The forms of the program by name. Who opens a form needs no more of it.
 namespace ratanka::names {

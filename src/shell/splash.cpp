@@ -1,6 +1,6 @@
 #include "shell/splash.h"
 
-#include "platform/forms.h"
+#include "platform/forms/forms.h"
 #include "shell/names.h"
 #include "shell/rules/advice.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/desktop.h"
-#include "platform/dialogs.h"
-#include "platform/form.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
 #include "shell/rules/premenne.h"
 
 namespace ratanka {

@@ -1,8 +1,8 @@
 #include "shell/uvod.h"
 
-#include "platform/controls.h"
-#include "platform/desktop.h"
-#include "platform/forms.h"
+#include "platform/controls/controls.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/forms.h"
 #include "shell/names.h"
 #include "shell/rules/shape.h"
 

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "platform/forms.h"
-#include "platform/keys.h"
-#include "platform/menus.h"
-#include "platform/shapes.h"
-#include "platform/text.h"
-#include "platform/timer.h"
+#include "platform/base/text.h"
+#include "platform/controls/menus.h"
+#include "platform/controls/shapes.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
+#include "platform/keyboard/keys.h"
 #include "shell/names.h"
 
 namespace ratanka::soccer {

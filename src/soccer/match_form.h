@@ -4,8 +4,8 @@
 #include <span>
 #include <string>
 
-#include "platform/dialogs.h"
-#include "platform/form.h"
+#include "platform/forms/form.h"
+#include "platform/ports/dialogs.h"
 #include "soccer/rules/match.h"
 
 class QAction;
@@ -15,7 +15,7 @@ namespace ratanka::soccer {
 
 // A key that holds a direction of one of the players.
 struct PlayerKey {
-  int code;  // platform/keys.h
+  int code;  // platform/keyboard/keys.h
   Held Match::*player;
   bool Held::*direction;
 };

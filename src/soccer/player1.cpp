@@ -2,12 +2,12 @@
 
 #include <QPainter>
 
-#include "platform/controls.h"
-#include "platform/forms.h"
-#include "platform/keys.h"
-#include "platform/pictures.h"
-#include "platform/text.h"
-#include "platform/timer.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/pictures.h"
+#include "platform/forms/forms.h"
+#include "platform/forms/timer.h"
+#include "platform/keyboard/keys.h"
 #include "shell/names.h"
 #include "soccer/rules/words.h"
 

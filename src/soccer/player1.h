@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 #include "soccer/match_form.h"
 #include "soccer/rules/computer.h"
 

@@ -1,6 +1,6 @@
 #include "soccer/player2.h"
 
-#include "platform/keys.h"
+#include "platform/keyboard/keys.h"
 #include "shell/names.h"
 #include "soccer/rules/words.h"
 

@@ -1,8 +1,8 @@
 #include "soccer/start_up.h"
 
-#include "platform/controls.h"
-#include "platform/forms.h"
-#include "platform/keys.h"
+#include "platform/controls/controls.h"
+#include "platform/forms/forms.h"
+#include "platform/keyboard/keys.h"
 #include "shell/names.h"
 
 namespace ratanka::soccer {

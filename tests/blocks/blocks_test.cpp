@@ -13,7 +13,7 @@
 #include "blocks/pics.h"
 #include "blocks/rules/tiles.h"
 #include "hasty_clock.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace ratanka::blocks {
 namespace {

@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "blocks/rules/stage.h"
-#include "platform/clock.h"
+#include "platform/ports/clock.h"
 
 namespace ratanka::blocks {
 

@@ -12,7 +12,7 @@
 #include "blocks/fake_stage.h"
 #include "blocks/rules/kockovka.h"
 #include "fakes.h"
-#include "platform/keys.h"
+#include "platform/keyboard/keys.h"
 
 // Whole games of children who press anything, watched by a referee who reckons for himself.
 namespace ratanka::blocks {

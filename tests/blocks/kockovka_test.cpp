@@ -8,7 +8,7 @@
 
 #include "blocks/fake_stage.h"
 #include "fakes.h"
-#include "platform/keys.h"
+#include "platform/keyboard/keys.h"
 
 namespace ratanka::blocks {
 namespace {

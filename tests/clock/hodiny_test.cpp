@@ -3,7 +3,7 @@
 #include <QLabel>
 
 #include "form_driver.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "shell/names.h"
 
 namespace ratanka::clock {

@@ -7,7 +7,7 @@
 #include "desktop/processes.h"
 #include "desktop/reward.h"
 #include "desktop/visit.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/chains.h"
 
 namespace ratanka {

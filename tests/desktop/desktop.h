@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "desktop/weston.h"
-#include "platform/units.h"
+#include "platform/ports/units.h"
 
 struct _XDisplay;
 

@@ -6,7 +6,7 @@
 #include "desktop/home.h"
 #include "desktop/processes.h"
 #include "desktop/reward.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/chains.h"
 #include "sheets/rules/sums.h"
 

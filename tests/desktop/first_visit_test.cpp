@@ -4,7 +4,7 @@
 #include <thread>
 
 #include "desktop/places.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/sums.h"
 
 namespace ratanka {

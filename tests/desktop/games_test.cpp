@@ -11,7 +11,7 @@
 #include "desktop/reward.h"
 #include "maze/rules/maze_file.h"
 #include "piskorky/rules/board.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/sums.h"
 
 namespace ratanka {

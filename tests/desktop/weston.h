@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 
 namespace ratanka {
 

@@ -5,7 +5,7 @@
 
 #include "desktop/places.h"
 #include "desktop/processes.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/rules/chains.h"
 #include "sheets/rules/products.h"
 #include "sheets/rules/sums.h"

@@ -12,9 +12,9 @@
 #include <functional>
 #include <thread>
 
-#include "platform/lazy_midi_out.h"
-#include "platform/lazy_sound.h"
 #include "platform/recording.h"
+#include "platform/sound/lazy_midi_out.h"
+#include "platform/sound/lazy_sound.h"
 
 // The sound server ends or hangs in the middle of a tune, and comes back.
 namespace ratanka {

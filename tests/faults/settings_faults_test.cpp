@@ -16,8 +16,8 @@
 #include <functional>
 #include <random>
 
-#include "platform/ini_file.h"
-#include "platform/ini_settings_store.h"
+#include "platform/settings/ini_file.h"
+#include "platform/settings/ini_settings_store.h"
 
 // What becomes of the settings when those who write them are killed, crowded, shut out or out of
 // space.

@@ -12,7 +12,7 @@
 #include <cstdint>
 
 #include "fuzz/law.h"
-#include "platform/animated_cursor.h"
+#include "platform/controls/animated_cursor.h"
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include <vector>
 
 #include "fuzz/law.h"
-#include "platform/ini_file.h"
-#include "platform/ini_text.h"
+#include "platform/plain/ini_text.h"
+#include "platform/settings/ini_file.h"
 
 namespace {
 

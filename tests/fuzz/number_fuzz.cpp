@@ -12,7 +12,7 @@
 #include "clock/rules/hands.h"
 #include "fuzz/law.h"
 #include "piano/rules/base_note.h"
-#include "platform/number.h"
+#include "platform/plain/number.h"
 
 namespace {
 

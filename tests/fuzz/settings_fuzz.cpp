@@ -9,7 +9,7 @@
 
 #include "clock/rules/hands.h"
 #include "fuzz/law.h"
-#include "platform/ini_settings_store.h"
+#include "platform/settings/ini_settings_store.h"
 #include "puzzle/rules/board.h"
 #include "puzzle/rules/name.h"
 #include "puzzle/rules/records.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -118,6 +119,23 @@ TEST(House, NoRulesRunInACircle) {
     const std::string unit = source.path.substr(0, source.path.rfind('.'));
     std::set<std::string> seen;
     EXPECT_FALSE(isInCircle(unit, unit, seen)) << unit << " is above itself";
+  }
+}
+
+// The rooms of the platform, from the lowest; one of a floor knows those of the floors below alone.
+TEST(House, ArrowsRunDownwardInThePlatformToo) {
+  const std::map<std::string, int> kFloors{{"ports", 0},    {"plain", 1},    {"base", 1},
+                                           {"keyboard", 1}, {"controls", 2}, {"settings", 2},
+                                           {"sound", 2},    {"forms", 3}};
+  const std::regex kRoom("^platform/([^/]+)/");
+  for (const Source& source : house()) {
+    std::smatch own;
+    if (!std::regex_search(source.path, own, kRoom)) continue;
+    for (const std::string& include : source.includes) {
+      std::smatch other;
+      if (!std::regex_search(include, other, kRoom) || other[1] == own[1]) continue;
+      EXPECT_LT(kFloors.at(other[1]), kFloors.at(own[1])) << source.path << " includes " << include;
+    }
   }
 }
 

@@ -8,8 +8,8 @@
 #include <map>
 
 #include "all_forms.h"
-#include "platform/free_place.h"
-#include "platform/pictures.h"
+#include "platform/controls/pictures.h"
+#include "platform/forms/free_place.h"
 
 // What an eye needs of every window.
 namespace ratanka {

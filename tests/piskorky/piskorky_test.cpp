@@ -4,7 +4,7 @@
 
 #include "all_forms.h"
 #include "piskorky/rules/board.h"
-#include "platform/timer.h"
+#include "platform/forms/timer.h"
 
 namespace ratanka::piskorky {
 namespace {

@@ -1,4 +1,4 @@
-#include "platform/ani_container.h"
+#include "platform/plain/ani_container.h"
 
 #include <gtest/gtest.h>
 

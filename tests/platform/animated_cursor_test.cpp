@@ -1,4 +1,4 @@
-#include "platform/animated_cursor.h"
+#include "platform/controls/animated_cursor.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>

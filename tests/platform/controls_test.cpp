@@ -1,11 +1,11 @@
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 #include <QPainter>
 
 #include "form_driver.h"
-#include "platform/keys.h"
-#include "platform/pictures.h"
-#include "platform/shapes.h"
+#include "platform/controls/pictures.h"
+#include "platform/controls/shapes.h"
+#include "platform/keyboard/keys.h"
 
 namespace ratanka {
 namespace {

@@ -6,9 +6,9 @@
 #include <memory>
 
 #include "form_driver.h"
-#include "platform/controls.h"
-#include "platform/form.h"
-#include "platform/qt_dialogs.h"
+#include "platform/controls/controls.h"
+#include "platform/forms/form.h"
+#include "platform/forms/qt_dialogs.h"
 
 namespace ratanka {
 namespace {

@@ -1,13 +1,13 @@
-#include "platform/forms.h"
+#include "platform/forms/forms.h"
 
 #include <QPushButton>
 
 #include "form_driver.h"
-#include "platform/controls.h"
-#include "platform/desktop.h"
-#include "platform/form.h"
-#include "platform/menus.h"
-#include "platform/timer.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/menus.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/form.h"
+#include "platform/forms/timer.h"
 
 namespace ratanka {
 namespace {

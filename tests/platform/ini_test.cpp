@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/ini_file.h"
-#include "platform/number.h"
+#include "platform/plain/number.h"
+#include "platform/settings/ini_file.h"
 
 namespace ratanka {
 namespace {

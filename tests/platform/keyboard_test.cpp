@@ -1,4 +1,4 @@
-#include "platform/keyboard.h"
+#include "platform/keyboard/keyboard.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <QKeyEvent>
 #include <QWindow>
 
-#include "platform/keys.h"
+#include "platform/keyboard/keys.h"
 
 // Where the window system doesn't mark repeats.
 namespace ratanka {

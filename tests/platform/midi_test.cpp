@@ -4,9 +4,9 @@
 #include <memory>
 #include <tuple>
 
-#include "platform/data_files.h"
-#include "platform/lazy_midi_out.h"
+#include "platform/base/data_files.h"
 #include "platform/recording.h"
+#include "platform/sound/lazy_midi_out.h"
 
 namespace ratanka {
 namespace {

@@ -8,12 +8,12 @@
 #include <csignal>
 #include <iostream>
 
-#include "platform/desktop.h"
-#include "platform/end_requests.h"
-#include "platform/free_place.h"
-#include "platform/ini_settings_store.h"
-#include "platform/qt_ticks.h"
-#include "platform/system_clock.h"
+#include "platform/forms/desktop.h"
+#include "platform/forms/end_requests.h"
+#include "platform/forms/free_place.h"
+#include "platform/forms/qt_ticks.h"
+#include "platform/forms/system_clock.h"
+#include "platform/settings/ini_settings_store.h"
 
 namespace ratanka {
 namespace {

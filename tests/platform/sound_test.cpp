@@ -8,10 +8,10 @@
 #include <thread>
 
 #include "note_text.h"
-#include "platform/data_files.h"
-#include "platform/lazy_midi_out.h"
-#include "platform/lazy_sound.h"
+#include "platform/base/data_files.h"
 #include "platform/recording.h"
+#include "platform/sound/lazy_midi_out.h"
+#include "platform/sound/lazy_sound.h"
 #include "tune.h"
 
 namespace ratanka {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "fakes.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "puzzle/rules/game.h"
 #include "puzzle/rules/name.h"
 #include "puzzle/rules/records.h"

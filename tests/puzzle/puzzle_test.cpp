@@ -6,7 +6,7 @@
 #include <QWheelEvent>
 
 #include "all_forms.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "puzzle/rules/board.h"
 
 namespace ratanka::puzzle {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes.h"
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "sheets/reckon.h"
 #include "sheets/rules/chains.h"
 #include "sheets/rules/products.h"

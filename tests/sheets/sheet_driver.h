@@ -4,8 +4,8 @@
 #include <QPushButton>
 
 #include "all_forms.h"
-#include "platform/controls.h"
-#include "platform/timer.h"
+#include "platform/controls/controls.h"
+#include "platform/forms/timer.h"
 #include "soak/reading.h"
 
 namespace ratanka::sheets {

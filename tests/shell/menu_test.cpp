@@ -2,7 +2,7 @@
 #include <QPushButton>
 
 #include "form_driver.h"
-#include "platform/form.h"
+#include "platform/forms/form.h"
 #include "shell/names.h"
 #include "shell/splash.h"
 #include "shell/uvod.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 #include "shell/rules/advice.h"
 #include "shell/rules/mark.h"
 

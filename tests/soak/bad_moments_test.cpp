@@ -11,7 +11,7 @@
 #include "blocks/kockovka_form.h"
 #include "hasty_clock.h"
 #include "maze/bludisko.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 
 namespace ratanka {
 namespace {

@@ -26,7 +26,7 @@
 #include <thread>
 #include <utility>
 
-#include "platform/twister_random.h"
+#include "platform/plain/twister_random.h"
 #include "screen/fingers.h"
 #include "screen/places.h"
 #include "screen/private_screen.h"

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "platform/text.h"
+#include "platform/base/text.h"
 #include "soak/diary.h"
 #include "soak/hands.h"
 #include "soak/heap.h"

@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QTimer>
 
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "soak/reading.h"
 #include "soak/tireless_child.h"
 

@@ -14,9 +14,9 @@
 #include <csignal>
 #include <random>
 
-#include "platform/controls.h"
-#include "platform/data_files.h"
-#include "platform/text.h"
+#include "platform/base/data_files.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
 #include "soak/diary.h"
 #include "soak/hands.h"
 #include "soak/laws.h"

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <random>
 
-#include "platform/application.h"
+#include "platform/forms/application.h"
 #include "soak/diary.h"
 #include "soak/restless_child.h"
 

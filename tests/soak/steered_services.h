@@ -5,10 +5,10 @@
 #include <string>
 
 #include "fakes.h"
-#include "platform/clock.h"
-#include "platform/midi_out.h"
-#include "platform/random.h"
-#include "platform/sound.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/midi_out.h"
+#include "platform/ports/random.h"
+#include "platform/ports/sound.h"
 
 // Services for a long day that passes in minutes: time goes by when it is told to, chance comes
 // from a seed, and nothing that is asked for is kept.

@@ -3,8 +3,8 @@
 #include <QString>
 
 #include "all_forms.h"
-#include "platform/end_requests.h"
-#include "platform/qt_dialogs.h"
+#include "platform/forms/end_requests.h"
+#include "platform/forms/qt_dialogs.h"
 #include "puzzle/puzzle.h"
 #include "shell/splash.h"
 #include "soak/steered_services.h"
@@ -28,16 +28,15 @@ class WholeProgram {
         random(given.seed),
         shuffling(given.seed),
         midi(given.midiDevices),
-        program(forms,
-                {.dialogs = dialogs,
-                 .desktop = desktop,
-                 .clock = clock,
-                 .settings = settings,
-                 .random = random,
-                 .sound = sound,
-                 .midiOut = midi,
-                 .mazeFile = given.mazeFile,
-                 .settingsFile = given.optionsFile}) {
+        program(forms, {.dialogs = dialogs,
+                        .desktop = desktop,
+                        .clock = clock,
+                        .settings = settings,
+                        .random = random,
+                        .sound = sound,
+                        .midiOut = midi,
+                        .mazeFile = given.mazeFile,
+                        .settingsFile = given.optionsFile}) {
     desktop.mode = given.screen;
     forms.setMaker(names::frmSplash, [this] {
       ++starts;

@@ -7,7 +7,7 @@
 #include <QPushButton>
 
 #include "all_forms.h"
-#include "platform/timer.h"
+#include "platform/forms/timer.h"
 #include "soccer/player2.h"
 #include "soccer/rules/game_library.h"
 

@@ -5,8 +5,8 @@
 #include <QWindow>
 #include <algorithm>
 
-#include "platform/controls.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
 #include "sheets/sheets.h"
 
 namespace ratanka {

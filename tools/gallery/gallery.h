@@ -9,11 +9,11 @@
 #include <initializer_list>
 #include <vector>
 
-#include "platform/data_files.h"
-#include "platform/ini_settings_store.h"
-#include "platform/qt_dialogs.h"
-#include "platform/qt_ticks.h"
-#include "platform/twister_random.h"
+#include "platform/base/data_files.h"
+#include "platform/forms/qt_dialogs.h"
+#include "platform/forms/qt_ticks.h"
+#include "platform/plain/twister_random.h"
+#include "platform/settings/ini_settings_store.h"
 #include "program.h"
 #include "sheets/sheet_design.h"
 

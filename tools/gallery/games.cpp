@@ -4,7 +4,7 @@
 
 #include "gallery/gallery.h"
 #include "piskorky/piskorky.h"
-#include "platform/controls.h"
+#include "platform/controls/controls.h"
 #include "shell/names.h"
 
 namespace ratanka {

@@ -4,8 +4,8 @@
 #include <array>
 
 #include "gallery/gallery.h"
-#include "platform/controls.h"
-#include "platform/text.h"
+#include "platform/base/text.h"
+#include "platform/controls/controls.h"
 #include "shell/names.h"
 
 namespace ratanka {

@@ -9,9 +9,9 @@
 #include <QPainter>
 
 #include "gallery/gallery.h"
-#include "platform/application.h"
-#include "platform/controls.h"
-#include "platform/pictures.h"
+#include "platform/controls/controls.h"
+#include "platform/controls/pictures.h"
+#include "platform/forms/application.h"
 
 namespace ratanka {
 namespace {

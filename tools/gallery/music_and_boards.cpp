@@ -5,8 +5,8 @@
 
 #include "blocks/kockovka_form.h"
 #include "gallery/gallery.h"
-#include "platform/controls.h"
-#include "platform/system_clock.h"
+#include "platform/controls/controls.h"
+#include "platform/forms/system_clock.h"
 #include "shell/names.h"
 
 namespace ratanka {
@@ -15,7 +15,8 @@ void Gallery::showBlocks() {
   // A game needs a time that goes by.
   const SystemClock clock;
   forms_.setMaker(names::frmKockovka, [&] {
-    return std::make_shared<blocks::frmKockovka>(forms_, clock, random_, silence_, program_.options);
+    return std::make_shared<blocks::frmKockovka>(forms_, clock, random_, silence_,
+                                                 program_.options);
   });
   forms_.show(names::frmKockovka);
   take(names::frmKockovka, "empty");

@@ -8,7 +8,7 @@
 #include "blocks/rules/full_rows.h"
 #include "blocks/rules/moves.h"
 #include "blocks/rules/pieces.h"
-#include "platform/keys.h"
+#include "platform/keyboard/keys.h"
 
 namespace ratanka::blocks {
 namespace {

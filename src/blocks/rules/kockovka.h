@@ -3,8 +3,8 @@
 #include "blocks/rules/game_state.h"
 #include "blocks/rules/options.h"
 #include "blocks/rules/stage.h"
-#include "platform/clock.h"
-#include "platform/random.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/random.h"
 
 namespace ratanka::blocks {
 

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "platform/number.h"
+#include "platform/plain/number.h"
 
 namespace ratanka::blocks {
 namespace {

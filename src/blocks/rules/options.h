@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/dialogs.h"
-#include "platform/ini_text.h"
+#include "platform/plain/ini_text.h"
+#include "platform/ports/dialogs.h"
 
 namespace ratanka::blocks {
 

@@ -5,7 +5,7 @@
 #include <span>
 
 #include "blocks/rules/pieces.h"
-#include "platform/colours.h"
+#include "platform/ports/colours.h"
 
 namespace ratanka::blocks {
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 
 namespace ratanka::blocks {
 

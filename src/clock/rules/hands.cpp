@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "platform/plain_text.h"
+#include "platform/plain/plain_text.h"
 
 namespace ratanka::clock {
 namespace {

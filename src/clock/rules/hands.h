@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "platform/clock.h"
-#include "platform/settings_store.h"
-#include "platform/units.h"
+#include "platform/ports/clock.h"
+#include "platform/ports/settings_store.h"
+#include "platform/ports/units.h"
 
 // The hands of the clock: where they point and what colour they have. The face has units of its own
 // from the middle, 2 to each edge of the picture, y downwards.

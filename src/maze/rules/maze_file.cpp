@@ -4,7 +4,7 @@
 #include <charconv>
 #include <optional>
 
-#include "platform/plain_text.h"
+#include "platform/plain/plain_text.h"
 
 namespace ratanka::maze {
 namespace {

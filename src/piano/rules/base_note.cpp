@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "platform/number.h"
+#include "platform/plain/number.h"
 
 namespace ratanka::piano {
 

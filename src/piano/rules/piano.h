@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "piano/rules/keys.h"
-#include "platform/midi_out.h"
+#include "platform/ports/midi_out.h"
 
 namespace ratanka::piano {
 

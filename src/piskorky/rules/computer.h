@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "piskorky/rules/board.h"
-#include "platform/random.h"
+#include "platform/ports/random.h"
 
 // How the computer chooses a cell. It looks at one line at a time, takes a win and blocks one with
 // the same zeal, and knows no better cells: a child is meant to be able to win.

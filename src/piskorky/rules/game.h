@@ -4,7 +4,7 @@
 
 #include "piskorky/rules/board.h"
 #include "piskorky/rules/outcome.h"
-#include "platform/random.h"
+#include "platform/ports/random.h"
 
 namespace ratanka::piskorky {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/dialogs.h"
+#include "platform/ports/dialogs.h"
 
 namespace ratanka::piskorky {
 

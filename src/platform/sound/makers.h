@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/midi_out.h"
-#include "platform/sound.h"
+#include "platform/ports/midi_out.h"
+#include "platform/ports/sound.h"
 
 // What the sound module gives to those who load it. The maker's result belongs to the caller, who
 // deletes it; `soundFont` is the path of a font, or empty.

@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
-#include "platform/midi_out.h"
-#include "platform/plain_text.h"
+#include "platform/plain/plain_text.h"
+#include "platform/ports/midi_out.h"
 #include "platform/sound/makers.h"
 #include "platform/sound/sound_system.h"
 #include "platform/sound/synthesiser.h"

@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "platform/sound.h"
+#include "platform/ports/sound.h"
 #include "platform/sound/makers.h"
 #include "platform/sound/mixer.h"
 #include "platform/sound/worker.h"

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "platform/riff.h"
+#include "platform/plain/riff.h"
 
 namespace ratanka {
 namespace {

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <optional>
 
-#include "platform/riff.h"
+#include "platform/plain/riff.h"
 
 namespace ratanka {
 namespace {

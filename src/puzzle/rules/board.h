@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 
 // The sliding board. A place is counted row by row from the top left, from 0: row * Size + column.
 namespace ratanka::puzzle {

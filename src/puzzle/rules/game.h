@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 #include "puzzle/rules/board.h"
 
 namespace ratanka::puzzle {

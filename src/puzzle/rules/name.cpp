@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/plain_text.h"
+#include "platform/plain/plain_text.h"
 
 namespace ratanka::puzzle {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/settings_store.h"
+#include "platform/ports/settings_store.h"
 
 namespace ratanka::puzzle {
 

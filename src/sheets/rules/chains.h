@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 #include "sheets/rules/example.h"
 
 // The sheets of five numbers a row, five draws each. An operator follows from the values on both

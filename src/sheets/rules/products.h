@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 #include "sheets/rules/example.h"
 
 namespace ratanka::sheets {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 #include "sheets/rules/example.h"
 
 // The sheets of one sum a row. Each draws the first number and then the second, two draws a row. A

@@ -4,7 +4,7 @@
 #include <span>
 #include <vector>
 
-#include "platform/units.h"
+#include "platform/ports/units.h"
 
 namespace ratanka {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/random.h"
+#include "platform/ports/random.h"
 #include "soccer/rules/directions.h"
 
 namespace ratanka::soccer {

@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/dialogs.h"
+#include "platform/ports/dialogs.h"
 #include "soccer/rules/match.h"
 
 namespace ratanka::soccer {
