@@ -4,6 +4,7 @@
 #include <thread>
 
 #include "desktop/places.h"
+#include "desktop/processes.h"
 #include "platform/plain/twister_random.h"
 #include "sheets/rules/sums.h"
 
@@ -39,8 +40,11 @@ TEST(FirstVisit, FromTheStartToTheMarkAndBackToTheMenu) {
   const Corner mark{kSheetCorner.x + 130, kSheetCorner.y + 458};
   EXPECT_TRUE(desktop.waitForPixel(mark.x, mark.y, {0, 255, 0}));
   for (int row = 1; row <= sheets::kRows; ++row) {
-    const Rgb tick = desktop.pixel(tickX(), tickY(row));
-    EXPECT_TRUE(tick.green > tick.red + 40) << "no tick in row " << row;
+    EXPECT_TRUE(waitFor([&] {  // the server may have painted the mark alone by now
+      const Rgb tick = desktop.pixel(tickX(), tickY(row));
+      return tick.green > tick.red + 40;
+    })) << "no tick in row "
+        << row;
   }
   const Rgb tick = desktop.pixel(tickX(), tickY(1));
   const Corner reward{kSheetCorner.x + 328 + 4, kSheetCorner.y + 440 + 20};
