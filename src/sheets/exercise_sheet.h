@@ -6,6 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/form.h"
 #include "sheets/sheet_design.h"
+#include "shell/rules/premenne.h"
 
 namespace ratanka {
 class Timer;
