@@ -1,5 +1,7 @@
 #include "report/vysvedcenie.h"
 
+#include <algorithm>
+
 #include "platform/controls/shapes.h"
 #include "platform/forms/desktop.h"
 #include "platform/forms/forms.h"
@@ -10,22 +12,12 @@
 namespace ratanka::report {
 namespace {
 
-struct Line {
-  const char* titleName;
-  const char* title;
-  const char* markName;
-  double Premenné::*percento;
-};
-
-constexpr std::array<Line, 7> kLines{{
-    {"Label1", "Delenie  malých čísel", "Label7", &Premenné::PercentoDelenie},
-    {"Label2", "Malé počty", "Label8", &Premenné::PercentoMalá},
-    {"Label4", "Veľké počty", "Label10", &Premenné::PercentoVeľká},
-    {"Label3", "Násobenie malých čísel", "Label9", &Premenné::PercentoNásobilka},
-    {"Label5", "Malá rátanka", "Label11", &Premenné::PercentoVeľkéčísla},
-    {"Label6", "Veľká rátanka", "Label12", &Premenné::PercentoZátvorky},
-    {"Label13", "Logická rátanka", "Label14", &Premenné::PercentoHádanka},
-}};
+// From the first line to the last.
+constexpr auto kLines = [] {
+  auto lines = kSheetList;
+  std::ranges::sort(lines, {}, &ListedSheet::cardLine);
+  return lines;
+}();
 
 constexpr Point kOutline[] = {{6, 3}, {357, 3}, {357, 458}, {6, 458}, {6, 3}};
 
@@ -52,14 +44,14 @@ Vysvedčenie::Vysvedčenie(Forms& forms, const Premenné& premenné)
 void Vysvedčenie::build() {
   int top = kFirstTop;
   for (std::size_t number = 0; number < kLines.size(); ++number) {
-    const Line& line = kLines.at(number);
-    addLabel(client(), {.name = line.titleName,
+    const ListedSheet& line = kLines.at(number);
+    addLabel(client(), {.name = line.titleLabel,
                         .place = {kTitleLeft, top, kMarkLeft - kTitleLeft, kLineHeight},
                         .caption = line.title,
                         .type = {.points = 13.5, .bold = true, .italic = true},
                         .fore = kBlue,
                         .align = Qt::AlignLeft | Qt::AlignVCenter});
-    marks_.at(number) = addLabel(client(), {.name = line.markName,
+    marks_.at(number) = addLabel(client(), {.name = line.markLabel,
                                             .place = {kMarkLeft, top, 750, kLineHeight},
                                             .caption = "0",
                                             .type = {.points = 17.25, .bold = true},
@@ -88,8 +80,9 @@ void Vysvedčenie::Form_Load() {
 
 void Vysvedčenie::ShowVýsledok1() {
   for (std::size_t number = 0; number < kLines.size(); ++number) {
-    const Line& line = kLines.at(number);
-    const int mark = markOnCard(premenné_.*line.percento);
+    const ListedSheet& line = kLines.at(number);
+    const auto percento = premenné_.Percento.find(line.name);
+    const int mark = percento == premenné_.Percento.end() ? 0 : markOnCard(percento->second);
     marks_.at(number)->setText(QString::number(mark));
     marks_.at(number)->setAccessibleName(
         QString(line.title).simplified() + ": " +

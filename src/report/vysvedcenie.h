@@ -4,12 +4,13 @@
 
 #include "platform/forms/form.h"
 #include "shell/rules/premenne.h"
+#include "shell/sheet_list.h"
 
 class QLabel;
 
 namespace ratanka::report {
 
-// The report card: the marks of the seven sheets, read once as it loads. Its OK is the way out of
+// The report card: the marks of all sheets, read once as it loads. Its OK is the way out of
 // the program.
 class Vysvedčenie : public Form {
  public:
@@ -25,7 +26,7 @@ class Vysvedčenie : public Form {
   void Command1_Click();
 
   const Premenné& premenné_;
-  std::array<QLabel*, 7> marks_{};
+  std::array<QLabel*, kSheetList.size()> marks_{};
 };
 
 }  // namespace ratanka::report

@@ -89,7 +89,7 @@ void ExerciseSheet::answer(int row) {
 void ExerciseSheet::ShowVysvedčenie() {
   const std::optional<double> percentage = worksheet_.ShowVysvedčenie();
   if (percentage) {
-    services_.premenné.*design_.percento = *percentage;
+    services_.premenné.Percento[design_.name] = *percentage;
     refresh();
   } else {
     services_.dialogs.message(kNothingRight);

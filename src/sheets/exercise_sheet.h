@@ -6,6 +6,7 @@
 #include "platform/forms/form.h"
 #include "platform/ports/dialogs.h"
 #include "sheets/sheet_design.h"
+#include "shell/rules/premenne.h"
 
 namespace ratanka {
 class Timer;

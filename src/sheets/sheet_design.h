@@ -8,7 +8,6 @@
 #include "platform/ports/form_name.h"
 #include "platform/ports/random.h"
 #include "sheets/rules/worksheet.h"
-#include "shell/rules/premenne.h"
 
 // What makes one exercise sheet differ from another: data for the one engine.
 namespace ratanka::sheets {
@@ -71,7 +70,6 @@ struct SheetDesign {
   // The next set where it isn't a fresh ShowStart; no examples: the old ones are asked again.
   std::optional<Examples> (*nextSet)(std::int16_t& DelenieKolo) = nullptr;
   Worksheet::Percentage percentage = Worksheet::Percentage::exact;
-  double Premenné::*percento = nullptr;
 
   RowDesigns rows{};
   double signPoints = 13.5;

@@ -6,16 +6,12 @@
 #include "shell/names.h"
 
 namespace ratanka::sheets {
-
-std::vector<SheetDesign> allSheets() {
-  return {Delenie(), Malá(), Veľká(), Násobilka(), Hádanka(), Veľkéčísla(), Zátvorky()};
-}
+namespace {
 
 SheetDesign Delenie() {
   return {.name = names::Delenie,
           .ShowStart = [](Random&) { return delenie::ShowStart(); },
           .nextSet = delenie::nextSet,
-          .percento = &Premenné::PercentoDelenie,
           .rows = plainRows(),
           .reward = {.game = names::frmStartUp, .tooltip = " Minifutbal ", .icon = "icon-ball"},
           .markPlace = {1920, 6720, 735, 615},
@@ -25,7 +21,6 @@ SheetDesign Delenie() {
 SheetDesign Malá() {
   return {.name = names::Malá,
           .ShowStart = malá::ShowStart,
-          .percento = &Premenné::PercentoMalá,
           .rows = plainRows(),
           .reward = {.game = names::Bludisko,
                      .tooltip = " Bludisko ",
@@ -42,7 +37,6 @@ SheetDesign Veľká() {
   return {
       .name = names::Veľká,
       .ShowStart = veľká::ShowStart,
-      .percento = &Premenné::PercentoVeľká,
       .rows = plainRows(),
       .reward = {.game = names::Klavír, .tooltip = " Klavír ", .icon = "icon-piano", .left = 4920},
       .markPlace = {2040, 6840, 615, 495}};
@@ -51,7 +45,6 @@ SheetDesign Veľká() {
 SheetDesign Násobilka() {
   return {.name = names::Násobilka,
           .ShowStart = násobilka::ShowStart,
-          .percento = &Premenné::PercentoNásobilka,
           .rows = plainRows(),
           .signPoints = 9.75,
           .buttons = {"Command3", "Command4", "Command5"},
@@ -63,7 +56,6 @@ SheetDesign Hádanka() {
   return {.name = names::Hádanka,
           .ShowStart = hádanka::ShowStart,
           .percentage = Worksheet::Percentage::whole,
-          .percento = &Premenné::PercentoHádanka,
           .rows = hiddenOperandRows(),
           .bookTimer = "Timer2",
           .reward = {.game = names::Piškôrky, .tooltip = "Piškôrky", .icon = "icon-xo"},
@@ -75,7 +67,6 @@ SheetDesign Hádanka() {
 SheetDesign Veľkéčísla() {
   return {.name = names::Veľkéčísla,
           .ShowStart = veľkéčísla::ShowStart,
-          .percento = &Premenné::PercentoVeľkéčísla,
           .rows = oneLabelRows(1080, 2295),
           .reward = {.game = names::frmKockovka, .tooltip = " Tetris ", .icon = "icon-blocks"},
           .countersHaveTooltips = true,
@@ -87,12 +78,17 @@ SheetDesign Zátvorky() {
   SheetDesign design{
       .name = names::Zátvorky,
       .ShowStart = zátvorky::ShowStart,
-      .percento = &Premenné::PercentoZátvorky,
       .rows = oneLabelRows(600, 2895),
       .reward = {.game = names::frmStartUp, .tooltip = " Minifutbal ", .icon = "icon-ball"},
       .countersHaveTooltips = true};
   design.rows.front().first.width = 2775;
   return design;
+}
+
+}  // namespace
+
+std::vector<SheetDesign> allSheets() {
+  return {Delenie(), Malá(), Veľká(), Násobilka(), Hádanka(), Veľkéčísla(), Zátvorky()};
 }
 
 }  // namespace ratanka::sheets

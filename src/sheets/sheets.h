@@ -7,12 +7,4 @@ namespace ratanka::sheets {
 
 std::vector<SheetDesign> allSheets();
 
-SheetDesign Delenie();
-SheetDesign Malá();
-SheetDesign Veľká();
-SheetDesign Násobilka();
-SheetDesign Hádanka();
-SheetDesign Veľkéčísla();
-SheetDesign Zátvorky();
-
 }  // namespace ratanka::sheets

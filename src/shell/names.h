@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ports/form_name.h"
+#include "shell/sheet_list.h"  // the names of the sheets
 
 // The forms of the program by name. Who opens a form needs no more of it.
 namespace ratanka::names {
@@ -9,14 +10,6 @@ inline constexpr FormName frmSplash{"frmSplash"};
 inline constexpr FormName Úvod{"Úvod"};
 inline constexpr FormName Vysvedčenie{"Vysvedčenie"};
 inline constexpr FormName Hodiny{"Hodiny"};
-
-inline constexpr FormName Delenie{"Delenie"};
-inline constexpr FormName Malá{"Malá"};
-inline constexpr FormName Veľká{"Veľká"};
-inline constexpr FormName Násobilka{"Násobilka"};
-inline constexpr FormName Hádanka{"Hádanka"};
-inline constexpr FormName Veľkéčísla{"Veľkéčísla"};
-inline constexpr FormName Zátvorky{"Zátvorky"};
 
 inline constexpr FormName Bludisko{"Bludisko"};
 inline constexpr FormName Klavír{"Klavír"};

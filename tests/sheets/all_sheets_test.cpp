@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <algorithm>
 
 #include "sheets/sheet_driver.h"
 
@@ -24,7 +25,6 @@ const QColor kRed(255, 0, 0);
 
 struct Sheet {
   FormName name, game;
-  double Premenné::*percento;
   const char* reward;
   const char* tooltips = kMute;
   QColor four{255, 128, 255}, wrong = kRed;
@@ -35,54 +35,60 @@ struct Sheet {
 
 // clang-format off
 const Sheet kSheets[] = {
-    {.name = names::Delenie, .game = names::frmStartUp, .percento = &Premenné::PercentoDelenie,
-     .reward = " Minifutbal ", .mark{128, 448, 49, 41}, .book{256, 456, 49, 36}},
-    {.name = names::Malá, .game = names::Bludisko, .percento = &Premenné::PercentoMalá,
-     .reward = " Bludisko ", .tooltips = kSpeaks, .four = kRed, .book{256, 456, 57, 36},
-     .place{328, 440}},
-    {.name = names::Veľká, .game = names::Klavír, .percento = &Premenné::PercentoVeľká,
-     .reward = " Klavír ", .mark{136, 456, 41, 33}, .place{328, 448}},
-    {.name = names::Násobilka, .game = names::frmPuzzle, .percento = &Premenné::PercentoNásobilka,
-     .reward = " Pucle ", .wrong{192, 0, 0}, .signSize = 13},
-    {.name = names::Hádanka, .game = names::Piškôrky, .percento = &Premenné::PercentoHádanka,
-     .reward = "Piškôrky", .tooltips = kSpeaks, .four = kRed},
-    {.name = names::Veľkéčísla, .game = names::frmKockovka,
-     .percento = &Premenné::PercentoVeľkéčísla, .reward = " Tetris ", .tooltips = kSpeaks,
-     .signSize = 0},
-    {.name = names::Zátvorky, .game = names::frmStartUp, .percento = &Premenné::PercentoZátvorky,
-     .reward = " Minifutbal ", .tooltips = kSpeaks, .signSize = 0}};
+    {.name = names::Delenie, .game = names::frmStartUp, .reward = " Minifutbal ",
+     .mark{128, 448, 49, 41}, .book{256, 456, 49, 36}},
+    {.name = names::Malá, .game = names::Bludisko, .reward = " Bludisko ", .tooltips = kSpeaks,
+     .four = kRed, .book{256, 456, 57, 36}, .place{328, 440}},
+    {.name = names::Veľká, .game = names::Klavír, .reward = " Klavír ", .mark{136, 456, 41, 33},
+     .place{328, 448}},
+    {.name = names::Násobilka, .game = names::frmPuzzle, .reward = " Pucle ", .wrong{192, 0, 0},
+     .signSize = 13},
+    {.name = names::Hádanka, .game = names::Piškôrky, .reward = "Piškôrky", .tooltips = kSpeaks,
+     .four = kRed},
+    {.name = names::Veľkéčísla, .game = names::frmKockovka, .reward = " Tetris ",
+     .tooltips = kSpeaks, .signSize = 0},
+    {.name = names::Zátvorky, .game = names::frmStartUp, .reward = " Minifutbal ",
+     .tooltips = kSpeaks, .signSize = 0}};
 // clang-format on
 
-TEST_F(AllSheetsTest, AVisitWithAllRightByReadingTheCaptions) {
-  for (const Sheet& sheet : kSheets) {
-    SCOPED_TRACE(sheet.name.text());
-    const bool isNásobilka = sheet.name == names::Násobilka;
-    openSheet(sheet.name);
-    EXPECT_TRUE(forms.isLoaded(names::Hodiny));
-    EXPECT_TRUE(window(sheet.name)->isActiveWindow());
+TEST_F(AllSheetsTest, FromTheMenuWithAllRightByReadingTheCaptionsToTheCard) {
+  for (const SheetDesign& design : allSheets()) {
+    SCOPED_TRACE(design.name.text());
+    sheet_ = design.name;
+    const auto listed = std::ranges::find(kSheetList, sheet_, &ListedSheet::name);
+    ASSERT_NE(listed, kSheetList.end());
+    click(control<QPushButton>(names::Úvod, listed->button));
+    settle();
+    ASSERT_TRUE(forms.isLoaded(names::Hodiny));
+    EXPECT_TRUE(window(sheet_)->isActiveWindow());
     random.numbers.clear();
     for (int draw = 0; draw < 45; ++draw) random.numbers.push_back((draw * 37 % 100) / 100.0);
-    clickButton(isNásobilka ? "Command4" : "Command2");  // new examples, of mixed numbers
+    click(control<QPushButton>(sheet_, design.buttons[1]));  // new examples, of mixed numbers
+    settle();
     for (int row = 1; row <= kRows; ++row) {
       EXPECT_EQ(QApplication::focusWidget(), box(row));
       answerRight(row);
       EXPECT_TRUE(imageShown(3 * row - 2)) << readRow(row);
     }
     EXPECT_EQ(strip(), "9 0 1");
-    EXPECT_EQ(premenné.*sheet.percento, 100);
-    const char* const reward = isNásobilka ? "Command3" : "Command1";
-    EXPECT_TRUE(button(reward)->isVisible());
-    EXPECT_EQ(button(reward)->toolTip(), sheet.reward);
-    clickButton(reward);
-    EXPECT_TRUE(forms.isLoaded(sheet.game));
-    EXPECT_NE(window(sheet.name), nullptr);
+    EXPECT_EQ(premenné.Percento[sheet_], 100);
+    auto* const reward = control<QPushButton>(sheet_, design.buttons[0]);
+    EXPECT_TRUE(reward->isVisible());
+    click(reward);
+    settle();
+    EXPECT_TRUE(forms.isLoaded(design.reward.game));
+    EXPECT_NE(window(sheet_), nullptr);
     leave();
-    EXPECT_FALSE(forms.isLoaded(sheet.name));
+    EXPECT_FALSE(forms.isLoaded(sheet_));
     EXPECT_FALSE(forms.isLoaded(names::Hodiny));
     EXPECT_NE(window(names::Úvod), nullptr);
     // Only the blocks game ends with its sheet.
-    EXPECT_EQ(forms.isLoaded(sheet.game), sheet.name != names::Veľkéčísla);
-    forms.drop(sheet.game);
+    EXPECT_EQ(forms.isLoaded(design.reward.game), sheet_ != names::Veľkéčísla);
+    forms.drop(design.reward.game);
+  }
+  forms.show(names::Vysvedčenie);
+  for (const ListedSheet& sheet : kSheetList) {
+    EXPECT_EQ(control<QLabel>(names::Vysvedčenie, sheet.markLabel)->text(), "1") << sheet.title;
   }
 }
 
@@ -98,7 +104,12 @@ TEST_F(AllSheetsTest, WordsPlacesAndColoursOfTheirOwn) {
     EXPECT_EQ(tooltips(), sheet.tooltips);
     EXPECT_EQ(label(39)->geometry(), sheet.mark);
     EXPECT_EQ(control<QWidget>(sheet_, "Picture3")->geometry(), sheet.book);
-    EXPECT_EQ(button(sheet_ == names::Násobilka ? "Command3" : "Command1")->pos(), sheet.place);
+    QPushButton* const reward = button(sheet_ == names::Násobilka ? "Command3" : "Command1");
+    EXPECT_EQ(reward->pos(), sheet.place);
+    EXPECT_EQ(reward->toolTip(), sheet.reward);
+    reward->click();
+    EXPECT_TRUE(forms.isLoaded(sheet.game));
+    forms.drop(sheet.game);
     if (sheet.signSize > 0) {
       EXPECT_EQ(label(2)->font().pixelSize(), sheet.signSize);
     }
@@ -143,7 +154,7 @@ TEST_F(AllSheetsTest, EveryCaptionFitsItsLabel) {
   // The widest figures: two digits everywhere and subtractions all the way.
   const std::pair<int, int> brackets[] = {{48, 50}, {10, 40}, {28, 30}, {10, 20}, {8, 10}};
   const std::pair<int, int> chain[] = {{24, 25}, {10, 20}, {10, 15}, {8, 10}, {4, 5}};
-  for (const Sheet& sheet : kSheets) {
+  for (const SheetDesign& sheet : allSheets()) {
     random.numbers.clear();
     for (int row = 1; row <= kRows; ++row) {
       for (const auto& [number, of] : sheet.name == names::Zátvorky ? brackets : chain) {
@@ -164,7 +175,7 @@ TEST_F(AllSheetsTest, HádankaCountsOnOverItsVisitsBehindZeros) {
   openSheet(names::Hádanka);
   EXPECT_EQ(control<Timer>(names::Hádanka, "Timer2")->interval(), 150);
   for (int row = 1; row <= kRows; ++row) answerRow(row, row <= 5);
-  EXPECT_EQ(premenné.PercentoHádanka, 56);  // 55.6
+  EXPECT_EQ(premenné.Percento[names::Hádanka], 56);  // 55.6
   leave();
   openSheet(names::Hádanka);
   EXPECT_EQ(strip(), "0 0 ");
@@ -209,7 +220,7 @@ std::string heard(QWidget* widget, QAccessible::Text part) {
 }
 
 TEST_F(AllSheetsTest, AChildWhoDoesNotSeeCanWorkItOut) {
-  for (const Sheet& sheet : kSheets) {
+  for (const SheetDesign& sheet : allSheets()) {
     openSheet(sheet.name);
     for (QWidget* const widget : window(sheet_)->findChildren<QWidget*>()) {
       const bool isMute = widget->objectName().startsWith("Line") || widget->objectName().isEmpty();

@@ -38,10 +38,7 @@ void Laws::look(const WholeProgram& program, int depth) {
   deepest_ = std::max(deepest_, depth);
   const std::vector<QWidget*> windows = Hands::windows();
   lookAtForms(program, windows);
-  const Premenné& marks = program.premenné;
-  for (const double percent :
-       {marks.PercentoDelenie, marks.PercentoMalá, marks.PercentoNásobilka, marks.PercentoVeľká,
-        marks.PercentoVeľkéčísla, marks.PercentoZátvorky, marks.PercentoHádanka}) {
+  for (const auto& [sheet, percent] : program.premenné.Percento) {
     if (!(percent >= 0 && percent <= 100)) fail("a percentage out of bounds");
   }
   const QWidget* const modal = QApplication::activeModalWidget();

@@ -56,13 +56,6 @@ void chooseOpponent(TirelessChild& child) {
 // As a child comes there and leaves; by the frame where nothing else is said.
 Visit visitOf(FormName form) {
   static const std::map<FormName, Visit> kWays{
-      {names::Malá, fromMenu(names::Malá, "Command1")},
-      {names::Veľká, fromMenu(names::Veľká, "Command2")},
-      {names::Násobilka, fromMenu(names::Násobilka, "Command3")},
-      {names::Delenie, fromMenu(names::Delenie, "Command4")},
-      {names::Veľkéčísla, fromMenu(names::Veľkéčísla, "Command5")},
-      {names::Zátvorky, fromMenu(names::Zátvorky, "Command8")},
-      {names::Hádanka, fromMenu(names::Hádanka, "Command9")},
       {names::Vysvedčenie,
        [](TirelessChild& child) {  // its own exits end the program
          child.open(names::Vysvedčenie);
@@ -75,6 +68,9 @@ Visit visitOf(FormName form) {
       {names::frmOptions, visitOptions},
       {names::frmStartUp, byOwnExit(names::frmStartUp, "imgEnd")},
       {names::frmSelectPlayer, chooseOpponent}};
+  for (const ListedSheet& sheet : kSheetList) {
+    if (sheet.name == form) return fromMenu(form, sheet.button);
+  }
   const auto way = kWays.find(form);
   if (way != kWays.end()) return way->second;
   return [form](TirelessChild& child) {
