@@ -81,8 +81,7 @@ void Vysvedčenie::Form_Load() {
 void Vysvedčenie::ShowVýsledok1() {
   for (std::size_t number = 0; number < kLines.size(); ++number) {
     const ListedSheet& line = kLines.at(number);
-    const auto percento = premenné_.Percento.find(line.name);
-    const int mark = percento == premenné_.Percento.end() ? 0 : markOnCard(percento->second);
+    const int mark = markOnCard(premenné_.*line.percento);
     marks_.at(number)->setText(QString::number(mark));
     marks_.at(number)->setAccessibleName(
         QString(line.title).simplified() + ": " +

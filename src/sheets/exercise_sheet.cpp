@@ -10,6 +10,7 @@
 #include "platform/keyboard/keys.h"
 #include "shell/names.h"
 #include "shell/rules/shape.h"
+#include "shell/sheet_list.h"
 
 namespace ratanka::sheets {
 namespace {
@@ -89,7 +90,7 @@ void ExerciseSheet::answer(int row) {
 void ExerciseSheet::ShowVysvedčenie() {
   const std::optional<double> percentage = worksheet_.ShowVysvedčenie();
   if (percentage) {
-    services_.premenné.Percento[design_.name] = *percentage;
+    services_.premenné.*listed(design_.name).percento = *percentage;
     refresh();
   } else {
     services_.dialogs.message(kNothingRight);

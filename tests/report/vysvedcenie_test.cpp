@@ -41,9 +41,13 @@ TEST_F(CardTest, IsEmptyAtFirst) {
 }
 
 TEST_F(CardTest, ReadsEachSheetIntoItsLine) {
-  premenné.Percento = {{names::Delenie, 19.99}, {names::Malá, 20},        {names::Násobilka, 60},
-                       {names::Veľká, 40},      {names::Veľkéčísla, 100}, {names::Zátvorky, 0.99},
-                       {names::Hádanka, 79}};
+  premenné = {.PercentoDelenie = 19.99,
+              .PercentoMalá = 20,
+              .PercentoNásobilka = 60,
+              .PercentoVeľká = 40,
+              .PercentoVeľkéčísla = 100,
+              .PercentoZátvorky = 0.99,
+              .PercentoHádanka = 79};
   forms.show(names::Úvod);
   click(control<QPushButton>(names::Úvod, "Command6"));
   settle();
@@ -59,7 +63,7 @@ TEST_F(CardTest, ReadsEachSheetIntoItsLine) {
     EXPECT_GT(line->y(), above);
     above = line->y();
   }
-  premenné.Percento[names::Delenie] = 100;  // read once
+  premenné.PercentoDelenie = 100;  // read once
   EXPECT_EQ(marks(), "5432102");
 }
 

@@ -71,7 +71,7 @@ TEST_F(AllSheetsTest, FromTheMenuWithAllRightByReadingTheCaptionsToTheCard) {
       EXPECT_TRUE(imageShown(3 * row - 2)) << readRow(row);
     }
     EXPECT_EQ(strip(), "9 0 1");
-    EXPECT_EQ(premenné.Percento[sheet_], 100);
+    EXPECT_EQ(premenné.*ratanka::listed(sheet_).percento, 100);
     auto* const reward = control<QPushButton>(sheet_, design.buttons[0]);
     EXPECT_TRUE(reward->isVisible());
     click(reward);
@@ -175,7 +175,7 @@ TEST_F(AllSheetsTest, HádankaCountsOnOverItsVisitsBehindZeros) {
   openSheet(names::Hádanka);
   EXPECT_EQ(control<Timer>(names::Hádanka, "Timer2")->interval(), 150);
   for (int row = 1; row <= kRows; ++row) answerRow(row, row <= 5);
-  EXPECT_EQ(premenné.Percento[names::Hádanka], 56);  // 55.6
+  EXPECT_EQ(premenné.PercentoHádanka, 56);  // 55.6
   leave();
   openSheet(names::Hádanka);
   EXPECT_EQ(strip(), "0 0 ");

@@ -81,7 +81,7 @@ TEST_F(MaláTest, MarksWearTheirColours) {
     EXPECT_EQ(caption(39), c.mark);
     EXPECT_EQ(label(39)->palette().color(QPalette::Window), c.back) << c.mark;
     EXPECT_EQ(button("Command1")->isVisible(), c.right == 4) << c.mark;
-    EXPECT_EQ(premenné.Percento[names::Malá], 100.0 * (1.0 * c.right / answers));
+    EXPECT_EQ(premenné.PercentoMalá, 100.0 * (1.0 * c.right / answers));
   }
 }
 
@@ -118,7 +118,7 @@ TEST_F(MaláTest, TheLastBoxEndsTheSetWhateverIsLeftAndFreshExamplesEndThePause)
 }
 
 TEST_F(MaláTest, EachKeyReleasedInTheLastBoxAsksForTheFirstRightAnswer) {
-  premenné.Percento[names::Malá] = 60;
+  premenné.PercentoMalá = 60;
   click(box(9));
   dialogs.expect(kNoneRight);
   type("7");
@@ -133,7 +133,7 @@ TEST_F(MaláTest, EachKeyReleasedInTheLastBoxAsksForTheFirstRightAnswer) {
   dialogs.expect(kNoneRight);
   answer("");
   EXPECT_TRUE(pause()->isEnabled());
-  EXPECT_EQ(premenné.Percento[names::Malá], 60);
+  EXPECT_EQ(premenné.PercentoMalá, 60);
   EXPECT_EQ(strip(), "0 1 ");
 }
 
@@ -188,7 +188,7 @@ TEST_F(MaláTest, TheWayBackLosesTheVisitButNotThePercentage) {
   advance(5000);
   EXPECT_EQ(random.drawn, 18);  // the pause went with the sheet
   EXPECT_EQ(ticks.running(), 0U);
-  EXPECT_EQ(premenné.Percento[names::Malá], 100);
+  EXPECT_EQ(premenné.PercentoMalá, 100);
 
   openSheet(names::Malá);
   EXPECT_EQ(strip(), "0 0 ");

@@ -38,7 +38,8 @@ void Laws::look(const WholeProgram& program, int depth) {
   deepest_ = std::max(deepest_, depth);
   const std::vector<QWidget*> windows = Hands::windows();
   lookAtForms(program, windows);
-  for (const auto& [sheet, percent] : program.premenné.Percento) {
+  for (const ListedSheet& sheet : kSheetList) {
+    const double percent = program.premenné.*sheet.percento;
     if (!(percent >= 0 && percent <= 100)) fail("a percentage out of bounds");
   }
   const QWidget* const modal = QApplication::activeModalWidget();
