@@ -31,7 +31,7 @@ class Form : public std::enable_shared_from_this<Form>, private WindowOwner {
  public:
   Form(const Form&) = delete;
   Form& operator=(const Form&) = delete;
-  virtual ~Form();
+  ~Form() override;
 
   bool isLoaded() const { return window_ != nullptr; }
   // Only of a loaded form.
