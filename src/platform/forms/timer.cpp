@@ -53,6 +53,7 @@ void Timer::tick() {
   isKept_ = isTicking_ || !(isImpatient_ || isGateOpen_());
   if (isKept_) return;
   isTicking_ = true;
+  emit ticked();
   const std::function<void()> handler = handler_;  // it may end the timer
   handler();
   isTicking_ = false;

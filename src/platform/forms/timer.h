@@ -39,6 +39,10 @@ class Timer : public QObject {
   // Never ticks again, whatever is set.
   void end();
 
+ signals:
+  // For who counts; the handler is called next.
+  void ticked();
+
  private:
   void restart();
   void tick();
